@@ -1,0 +1,235 @@
+#include "core/evaluator.h"
+
+#include "core/calculate.h"
+#include "core/interpreter.h"
+#include "core/keywords.h"
+#include "core/numbers.h"
+#include "core/procedures.h"
+#include "core/text.h"
+
+namespace tamrix {
+namespace {
+
+// The search shared by both finders: `names` in order, the first whose first
+// occurrence is followed by "(" or a blank. On a text whose brackets can't
+// be matched, the stop box and false.
+template <typename Names, typename OnFound>
+bool FindCall(Interpreter& interpreter, std::string_view text, const Names& names,
+              const std::string& errorWord, CallRecord& call, OnFound onFound) {
+  for (std::size_t n = 0; n < names.size(); ++n) {
+    const std::string& name = names[n];
+    if (name.empty()) continue;
+    const auto p = text.find(name);
+    if (p == std::string_view::npos) continue;
+    const auto behind = p + name.size();
+    if (behind >= text.size() || (text[behind] != '(' && text[behind] != ' ')) continue;
+
+    const std::string tagged = TagBrackets(text);
+    const auto start = tagged.find(name);
+    auto digit = start;
+    while (digit < tagged.size() && !IsDigit(tagged[digit]) && tagged[digit] != '\r') ++digit;
+    const auto q = digit < tagged.size() ? tagged.find(']', start) : std::string::npos;
+    std::size_t r = std::string::npos;
+    if (q != std::string::npos && q > 0) {
+      const std::string closing = std::string("[") + tagged[q - 1];
+      r = tagged.find(closing, q);
+    }
+    if (digit >= tagged.size() || q == std::string::npos || r == std::string::npos || digit == start) {
+      interpreter.StopBox(errorWord + name + "\r\n\r\nMake sure you put the arguments in parentheses!");
+      return false;
+    }
+    call.name = Trim(tagged.substr(start, digit - start - 1));
+    call.arguments = tagged.substr(q + 1, r - q - 1);
+    onFound(n);
+    return true;
+  }
+  return false;
+}
+
+// The text behind a rewritten call: it starts two characters behind the end
+// of the argument text, so the character behind the ")" is dropped.
+std::string RestBehind(const std::string& expr, const std::string& args, std::size_t from) {
+  const auto at = expr.find(args, from);
+  const std::size_t restStart = (at == std::string::npos ? 0 : at) + args.size() + 2 -
+                                (at == std::string::npos ? 1 : 0);
+  return restStart < expr.size() ? expr.substr(restStart) : std::string();
+}
+
+}  // namespace
+
+std::string TagBrackets(std::string_view text) {
+  const std::string plain = StripTags(text);
+  std::string out;
+  out.reserve(plain.size() + plain.size() / 2);
+  int depth = 0;
+  for (char c : plain) {
+    if (c == '(') {
+      ++depth;
+      out += '(';
+      out += std::to_string(depth);
+      out += ']';
+    } else if (c == ')') {
+      out += '[';
+      out += std::to_string(depth);
+      out += ')';
+      --depth;
+    } else {
+      out += c;
+    }
+  }
+  return out;
+}
+
+std::string StripTags(std::string_view text) {
+  std::string out;
+  out.reserve(text.size());
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    // "(<digits>]" and "[<digits>)", with an optional minus sign.
+    std::size_t j = i + 1;
+    if (j < text.size() && text[j] == '-') ++j;
+    const std::size_t digits = j;
+    while (j < text.size() && IsDigit(text[j])) ++j;
+    const bool hasDigits = j > digits;
+    if (c == '(' && hasDigits && j < text.size() && text[j] == ']') {
+      out += '(';
+      i = j;
+    } else if (c == '[' && hasDigits && j < text.size() && text[j] == ')') {
+      out += ')';
+      i = j;
+    } else {
+      out += c;
+    }
+  }
+  return out;
+}
+
+bool FindCommandCall(Interpreter& interpreter, std::string_view expr, CallRecord& call) {
+  if (StartsWith(expr, "RetStr String")) return false;
+  const std::string text = Trim(expr);
+  if (StartsWith(text, "\"") && EndsWith(text, "\"")) return false;
+  call = CallRecord();
+  return FindCall(interpreter, text, KeywordList(), "Error in command ", call, [](std::size_t) {});
+}
+
+bool FindFunctionCall(Interpreter& interpreter, std::string_view expr, CallRecord& call,
+                      std::string& returnType) {
+  returnType.clear();
+  if (StartsWith(expr, "\"")) return false;
+  const std::string text = Trim(expr);
+  call = CallRecord();
+  const Procedures& procs = interpreter.Procs();
+  return FindCall(interpreter, text, procs.FunctionNames(), "Error in function ", call,
+                  [&](std::size_t n) { returnType = procs.FunctionReturns()[n]; });
+}
+
+void ExecuteCommandCall(Interpreter& interpreter, std::string& expr, const CallRecord& call,
+                        bool& numericFlag) {
+  const auto p = expr.find(call.name);
+  const std::size_t at = p == std::string::npos ? 0 : p;
+  const auto close = expr.find(')', at);
+  const std::string tail = close != std::string::npos && close + 1 < expr.size() ? expr.substr(close + 1, 1) : "";
+  std::string head = expr.substr(0, at);
+  const std::string args = StripTags(call.arguments);
+
+  std::string runArgs = args;
+  head += TextOf(interpreter.Commands().RunCommand(interpreter, call.name, runArgs));
+  const bool numericCall = IsNumericKeyword(Upper(call.name));
+  if (!numericCall) head += tail;
+
+  if (!numericFlag && (Trim(args).empty() || interpreter.Variables().VarIndex(Trim(args)) >= 0)) {
+    expr = head;  // whatever stood behind the call is lost
+    return;
+  }
+  const auto firstBracket = expr.find('(');
+  const std::string rest = RestBehind(expr, args, firstBracket == std::string::npos ? 0 : firstBracket);
+  if (numericFlag) head = ReplaceAll(head, ",", ".");
+  expr = head + rest;
+}
+
+void ExecuteFunctionCall(Interpreter& interpreter, std::string& expr, const CallRecord& call,
+                         const std::string& returnType) {
+  const auto p = expr.find(call.name);
+  const std::string head = expr.substr(0, p == std::string::npos ? 0 : p);
+  const std::string args = StripTags(call.arguments);
+  std::string result = TextOf(CallFunction(interpreter, call.name, args));
+  if (returnType == "Numero") {
+    const auto comma = result.rfind(',');
+    if (comma != std::string::npos) result[comma] = '.';
+  }
+  if (returnType == "String" && !StartsWith(result, "\"")) result = "\"" + result + "\"";
+  const std::string rest = RestBehind(expr, args, 0);
+  expr = head + result + rest;
+}
+
+bool IsArithmetic(std::string_view expr) {
+  if (expr.find_first_of("/*-+^%") == std::string_view::npos) return false;
+  if (StartsWith(expr, "\"")) return false;
+  return !Trim(StripQuotes(expr)).empty();
+}
+
+std::string ExpandVariables(Interpreter& interpreter, std::string_view expr, int& itemCount) {
+  itemCount = 0;
+  std::string out;
+  out.reserve(expr.size() * 2);
+  for (std::size_t i = 0; i < expr.size();) {
+    if (!IsLetter(expr[i])) {
+      out += expr[i++];
+      ++itemCount;
+      continue;
+    }
+    std::size_t j = i;
+    while (j < expr.size() && expr[j] != '(') {
+      const char l = LowerChar(expr[j]);
+      if (!(IsDigit(l) || (l >= '_' && l <= 'z') || l == '.')) break;
+      ++j;
+    }
+    if (j < expr.size() && expr[j] == '(') {
+      const auto close = expr.find(')', j);
+      j = close == std::string_view::npos ? expr.size() : close + 1;
+    }
+    out += TextOf(interpreter.Variables().GetVariable(expr.substr(i, j - i)));
+    ++itemCount;
+    i = j;
+  }
+  return out;
+}
+
+Value Evaluate(Interpreter& interpreter, std::string_view source, bool& numericFlag) {
+  std::string expr = Trim(StripTags(source));
+  CallRecord call;
+  while (FindCommandCall(interpreter, expr, call)) {
+    if (IsNumericKeyword(Upper(call.name))) numericFlag = true;
+    ExecuteCommandCall(interpreter, expr, call, numericFlag);
+  }
+  std::string returnType;
+  while (FindFunctionCall(interpreter, expr, call, returnType)) {
+    ExecuteFunctionCall(interpreter, expr, call, returnType);
+  }
+  if (IsNumeric(expr)) return Val(expr);
+  if (IsArithmetic(expr)) {
+    int itemCount = 0;
+    const std::string expanded = ExpandVariables(interpreter, expr, itemCount);
+    if (itemCount == 1) return expanded;
+    return Val(ReplaceAll(Calculate(expanded).text, ",", "."));
+  }
+  if (interpreter.Variables().VarIndex(expr) >= 0) return interpreter.Variables().GetVariable(expr);
+  return StripQuotes(expr);
+}
+
+Value EvaluateText(Interpreter& interpreter, std::string_view source, bool& numericFlag) {
+  std::string expr(source);
+  CallRecord call;
+  while (FindCommandCall(interpreter, expr, call)) {
+    if (IsNumericKeyword(Upper(call.name))) numericFlag = true;
+    ExecuteCommandCall(interpreter, expr, call, numericFlag);
+  }
+  std::string returnType;
+  while (FindFunctionCall(interpreter, expr, call, returnType)) {
+    ExecuteFunctionCall(interpreter, expr, call, returnType);
+  }
+  if (interpreter.Variables().VarIndex(expr) >= 0) return interpreter.Variables().GetVariable(expr);
+  return StripQuotes(expr);
+}
+
+}  // namespace tamrix

@@ -1,0 +1,376 @@
+#include "core/executor.h"
+
+#include <array>
+#include <cstdlib>
+
+#include "core/conditions.h"
+#include "core/dispatcher.h"
+#include "core/evaluator.h"
+#include "core/fault.h"
+#include "core/interpreter.h"
+#include "core/keywords.h"
+#include "core/numbers.h"
+#include "core/preparation.h"
+#include "core/procedures.h"
+#include "core/text.h"
+
+namespace tamrix {
+namespace {
+
+// Deeper nesting of frames ends as the run-time's stack fault.
+constexpr int kMaxFrameDepth = 1500;
+
+std::string LineTag(int pc) { return "&#" + ZeroPadded(pc, 5); }
+
+class FrameDepth {
+ public:
+  explicit FrameDepth(int& depth) : depth_(depth) {
+    if (++depth_ > kMaxFrameDepth) {
+      --depth_;
+      Throw(kOutOfStackSpace);
+    }
+  }
+  ~FrameDepth() { --depth_; }
+  FrameDepth(const FrameDepth&) = delete;
+  FrameDepth& operator=(const FrameDepth&) = delete;
+
+ private:
+  int& depth_;
+};
+
+class Frame {
+ public:
+  Frame(Interpreter& interpreter, std::string text) : in_(interpreter), text_(std::move(text)) {}
+
+  void Run(int firstLine);
+
+ private:
+  enum class Next { Line, Jumped, End };
+
+  bool Fetch(int firstLine);
+  bool Advance();
+  void JumpToLineAt(std::size_t position);
+  int NumberOfLineAt(std::size_t position) const;
+  Next Step();
+  Next Increment(const std::string& line, std::string_view sign);
+  bool CompoundAssign(std::string& line, char sign);
+  Next GoTo(const std::string& line, std::size_t p);
+  std::string Depth(const std::string& line, std::size_t open) const;
+  void Dispatch(const std::string& line);
+  void DeclareVariables(const std::string& line, const std::string& word);
+  void Assign(const std::string& line, const std::string& word, bool numeric);
+  void Concatenate(const std::string& expr, const std::string& word);
+  std::string& IfState(const std::string& depth);
+  std::string GoToPrefix(const std::string& line) const;
+
+  Interpreter& in_;
+  std::string text_;
+  int pc_ = 0;
+  std::size_t lineStart_ = 0;
+  std::size_t lineEnd_ = 0;
+  std::array<std::string, 21> ifState_;
+  ConditionArrays conditions_;
+  bool flag_ = false;
+};
+
+int Frame::NumberOfLineAt(std::size_t position) const {
+  const auto start = text_.rfind("&#", position);
+  if (start == std::string::npos) return -1;
+  return std::atoi(text_.substr(start + 2, 5).c_str());
+}
+
+void Frame::JumpToLineAt(std::size_t position) {
+  lineStart_ = text_.rfind("&#", position);
+  pc_ = std::atoi(text_.substr(lineStart_ + 2, 5).c_str());
+  lineEnd_ = text_.find(kCrLf, lineStart_);
+  if (lineEnd_ == std::string::npos) lineEnd_ = text_.size();
+}
+
+bool Frame::Fetch(int firstLine) {
+  lineStart_ = firstLine == 0 ? text_.find("&#") : text_.find(LineTag(firstLine));
+  if (lineStart_ == std::string::npos) return false;
+  pc_ = std::atoi(text_.substr(lineStart_ + 2, 5).c_str());
+  lineEnd_ = text_.find(kCrLf, lineStart_);
+  if (lineEnd_ == std::string::npos) lineEnd_ = text_.size();
+  return true;
+}
+
+bool Frame::Advance() {
+  ++pc_;
+  const auto next = text_.find(LineTag(pc_), lineStart_);
+  if (next == std::string::npos) return false;
+  lineStart_ = next;
+  lineEnd_ = text_.find(kCrLf, lineStart_);
+  if (lineEnd_ == std::string::npos) lineEnd_ = text_.size();
+  return true;
+}
+
+void Frame::Run(int firstLine) {
+  in_.State().stopFlag = false;
+  if (!Fetch(firstLine)) return;
+  for (;;) {
+    const Next next = Step();
+    if (next == Next::End) return;
+    if (next == Next::Line && !Advance()) return;
+  }
+}
+
+std::string Frame::Depth(const std::string& line, std::size_t open) const {
+  const auto close = line.find(']', open);
+  return close == std::string::npos ? line.substr(open) : line.substr(open, close - open);
+}
+
+std::string& Frame::IfState(const std::string& depth) {
+  const auto parsed = ParseRegionalNumber(depth);
+  if (!parsed) Throw(kTypeMismatch);
+  const int index = ToInt16(*parsed);
+  if (index < 0 || index > 20) Throw(kSubscriptOutOfRange);
+  return ifState_[static_cast<std::size_t>(index)];
+}
+
+std::string Frame::GoToPrefix(const std::string& line) const {
+  if (line.size() < kStatementColumn) return "Error in command GoTo (Ed.: 0 Line 0): ";
+  const long unit = std::atol(line.substr(16, 2).c_str());
+  const long source = std::atol(line.substr(9, 5).c_str());
+  return "Error in command GoTo (Ed.: " + std::to_string(unit) + " Line " + std::to_string(source + 1) + "): ";
+}
+
+Frame::Next Frame::Step() {
+  RunState& state = in_.State();
+  if (!state.programActive || state.windowStopFlag || state.stopFlag) return Next::End;
+
+  std::string line = text_.substr(lineStart_, lineEnd_ - lineStart_);
+  if (line.size() >= kStatementColumn) {
+    state.errorPosition = "Editor: " + std::to_string(std::atol(line.substr(16, 2).c_str())) +
+                          " Line: " + std::to_string(std::atol(line.substr(9, 5).c_str()) + 1);
+  }
+
+  const std::string upper = Upper(line);
+  if (Contains(upper, "ENDPROGRAM")) {
+    state.stopFlag = true;
+    return Next::End;
+  }
+  if (Contains(upper, "ENDFUNCTION")) return Next::End;
+  if (Contains(upper, "ENDWINDOW")) {
+    in_.Screen().CloseMainWindow();
+    return Next::End;
+  }
+
+  if (EndsWith(line, "++")) return Increment(line, "++");
+  if (EndsWith(line, "--")) return Increment(line, "--");
+  if (CompoundAssign(line, '+') || CompoundAssign(line, '-')) return Next::Line;
+
+  if (Contains(upper, "NEWWINDOW")) {
+    std::string arguments = line.size() > 29 ? line.substr(29) : std::string();
+    in_.Commands().RunCommand(in_, "NewWindow", arguments);
+    return Next::Line;
+  }
+  if (line.size() >= kStatementColumn + 2 && line.compare(kStatementColumn, 2, "DB") == 0 &&
+      in_.DatabaseBlockReader()) {
+    pc_ = in_.DatabaseBlockReader()(in_, text_, lineStart_, pc_);
+    return Next::Line;
+  }
+  if (const auto p = line.find("GoTo"); p != std::string::npos) return GoTo(line, p);
+
+  if (const auto p = line.find("While["); p != std::string::npos) {
+    const std::string d = Depth(line, p + 6);
+    const std::string condition = line.size() > p + 9 ? line.substr(p + 9) : std::string();
+    if (EvaluateCondition(in_, condition, conditions_, flag_) == "TRUE") return Next::Line;
+    const auto loop = text_.find("Loop[" + d + "]", lineStart_);
+    if (loop != std::string::npos) {
+      pc_ = NumberOfLineAt(loop);
+      return Next::Line;
+    }
+  }
+  if (const auto p = line.find("Loop["); p != std::string::npos) {
+    const std::string d = Depth(line, p + 5);
+    const auto loopStart = lineStart_ == 0 ? std::string::npos : text_.rfind("While[" + d + "]", lineStart_ - 1);
+    if (loopStart != std::string::npos) {
+      JumpToLineAt(loopStart);
+      return Next::Jumped;
+    }
+  }
+  bool reachedElse = false;
+  if (const auto p = line.find("EndIf["); p != std::string::npos) {
+    IfState(Depth(line, p + 6)).clear();
+    reachedElse = true;
+  }
+  if (const auto p = line.find("If["); !reachedElse && p != std::string::npos) {
+    const std::string d = Depth(line, p + 3);
+    std::string& ifState = IfState(d);
+    const std::string condition = line.size() > p + 6 ? line.substr(p + 6) : std::string();
+    ifState = EvaluateCondition(in_, condition, conditions_, flag_);
+    if (Contains(line, "MouseClick")) in_.Variables().SetVariable("MouseClick", std::string("FALSE"), false);
+    if (ifState == "TRUE") return Next::Line;
+    const auto endIf = text_.find("EndIf[" + d + "]", lineStart_);
+    const auto elseAt = text_.find("Else[" + d + "]", lineStart_);
+    if (endIf != std::string::npos) {
+      const int e = NumberOfLineAt(endIf);
+      const int x = elseAt == std::string::npos ? -1 : NumberOfLineAt(elseAt);
+      if (x < 0 || x >= e) {
+        pc_ = e;
+        ifState.clear();
+      } else {
+        pc_ = x;
+      }
+      return Next::Line;
+    }
+  }
+  if (const auto p = line.find("Else["); p != std::string::npos) {
+    const std::string d = Depth(line, p + 5);
+    std::string& ifState = IfState(d);
+    if (ifState == "FALSE") return Next::Line;
+    const auto endIf = text_.find("EndIf[" + d + "]", lineStart_);
+    if (endIf != std::string::npos) {
+      pc_ = NumberOfLineAt(endIf);
+      ifState.clear();
+      return Next::Line;
+    }
+  }
+  Dispatch(line);
+  return Next::Line;
+}
+
+Frame::Next Frame::Increment(const std::string& line, std::string_view sign) {
+  flag_ = true;
+  const auto p = line.find(sign);
+  const auto blank = p == 0 ? std::string::npos : line.rfind(' ', p - 1);
+  const auto nameStart = blank == std::string::npos ? 0 : blank + 1;
+  const std::string name = line.substr(nameStart, p - nameStart);
+  VariableStore& vars = in_.Variables();
+  const Value one = std::int32_t{1};
+  const Value current = vars.GetVariable(name);
+  vars.SetVariable(name, sign == "++" ? AddValues(current, one) : SubtractValues(current, one), flag_);
+  return Next::Line;
+}
+
+bool Frame::CompoundAssign(std::string& line, char sign) {
+  const std::string glued = std::string(1, sign) + " = ";
+  if (const auto g = line.find(glued); g != std::string::npos && g > 0 && line[g - 1] != ' ') {
+    line.insert(g, " ");
+  }
+  const auto p = line.find(std::string(" ") + sign + " =");
+  if (p == std::string::npos) return false;
+  const auto blank = p == 0 ? std::string::npos : line.rfind(' ', p - 1);
+  const auto nameStart = blank == std::string::npos ? 0 : blank + 1;
+  const std::string name = line.substr(nameStart, p - nameStart);
+  const std::string value = line.size() > p + 5 ? line.substr(p + 5) : std::string();
+  VariableStore& vars = in_.Variables();
+  const Value current = vars.GetVariable(name);
+  const Value operand = Evaluate(in_, value, flag_);
+  vars.SetVariable(name, sign == '+' ? AddValues(current, operand) : SubtractValues(current, operand), flag_);
+  return true;
+}
+
+Frame::Next Frame::GoTo(const std::string& line, std::size_t p) {
+  const std::string label = line.size() > p + 5 ? line.substr(p + 5) : std::string();
+  if (EndsWith(label, ":")) {
+    in_.StopBox(GoToPrefix(line) + "Label can't have character : (colon)!");
+    return Next::End;
+  }
+  const auto target = text_.find(label + ":");
+  if (target == std::string::npos || text_.rfind("&#", target) == std::string::npos) {
+    in_.StopBox(GoToPrefix(line) + "Label not found: " + label + ":");
+    return Next::End;
+  }
+  JumpToLineAt(target);
+  return Next::Jumped;
+}
+
+void Frame::Dispatch(const std::string& line) {
+  const std::string statement = line.size() > kStatementColumn ? line.substr(kStatementColumn) : std::string();
+  const std::string word = statement.substr(0, statement.find(' '));
+  const std::string upperWord = Upper(word);
+  const auto rest = [&] { return line.size() > word.size() + 20 ? line.substr(word.size() + 20) : std::string(); };
+  VariableStore& vars = in_.Variables();
+
+  if (upperWord == "VAR" || upperWord == "VARIABLE") {
+    DeclareVariables(line, word);
+  } else if (in_.Procs().IsSub(word)) {
+    ExecuteSub(in_, word);
+  } else if (upperWord == "RETURN") {
+    in_.State().returnValue = Evaluate(in_, rest(), flag_);
+  } else if (vars.VarIndex(word) >= 0) {
+    Assign(line, word, vars.LastVarType() != VarType::String);
+  } else if (IsCommandWord(word) || StartsWith(upperWord, "REP.")) {
+    std::string arguments = rest();
+    in_.Commands().RunCommand(in_, word, arguments);
+  } else {
+    in_.QueryBox(in_.State().errorPosition + "\r\nError: variable undeclared: " + word);
+  }
+}
+
+void Frame::DeclareVariables(const std::string& line, const std::string& word) {
+  const std::string list = line.size() > word.size() + 20 ? line.substr(word.size() + 20) : std::string();
+  in_.DeclareVariables(list, flag_);
+}
+
+void Frame::Assign(const std::string& line, const std::string& word, bool numeric) {
+  const std::string upper = Upper(line);
+  const bool textParts = Contains(upper, "CHR(") || Contains(upper, "JOIN(") || Contains(upper, "FORMAT(") ||
+                         Contains(upper, "DIRECTORY(") || Contains(upper, "SQL(");
+  const auto equals = line.find('=');
+  std::string expr = Trim(equals == std::string::npos ? line : line.substr(equals + 1));
+  VariableStore& vars = in_.Variables();
+
+  const std::string upperExpr = Upper(expr);
+  if (StartsWith(upperExpr, "SQL(") && !Contains(upperExpr, "TOTALRECORDS") && in_.SqlAssignment()) {
+    vars.SetVariable(word, in_.SqlAssignment()(in_, expr), true);
+    return;
+  }
+  if (Contains(expr, " & ")) {
+    Concatenate(expr, word);
+    return;
+  }
+  CallRecord call;
+  std::string returnType;
+  if (FindFunctionCall(in_, expr, call, returnType) && EndsWith(expr, "()")) {
+    vars.SetVariable(word, CallFunction(in_, expr.substr(0, expr.size() - 2), ""), true);
+    return;
+  }
+  while (FindFunctionCall(in_, expr, call, returnType)) ExecuteFunctionCall(in_, expr, call, returnType);
+  while (FindCommandCall(in_, expr, call)) ExecuteCommandCall(in_, expr, call, numeric);
+
+  const auto parts = SplitArguments(in_, expr, 11, false, numeric);
+  std::string out;
+  for (const auto& part : parts) {
+    if (part.empty()) break;
+    out += TextOf(textParts ? EvaluateText(in_, part, numeric) : Evaluate(in_, part, numeric));
+  }
+  vars.SetVariable(word, out, true);
+}
+
+void Frame::Concatenate(const std::string& expr, const std::string& word) {
+  std::string out;
+  std::size_t start = 0;
+  VariableStore& vars = in_.Variables();
+  for (;;) {
+    const auto joint = expr.find(" & ", start);
+    const std::string piece = Trim(expr.substr(start, joint == std::string::npos ? std::string::npos : joint - start));
+    CallRecord call;
+    if (StartsWith(piece, "\"")) {
+      out += StripQuotes(piece);
+    } else if (vars.VarIndex(piece) >= 0) {
+      out += TextOf(vars.GetVariable(piece));
+    } else if (FindCommandCall(in_, piece, call)) {
+      // The call runs twice: once in the rewriting, once for its value.
+      std::string rewritten = piece;
+      ExecuteCommandCall(in_, rewritten, call, flag_);
+      std::string arguments = StripTags(call.arguments);
+      out += StripQuotes(TextOf(in_.Commands().RunCommand(in_, call.name, arguments)));
+    }
+    if (joint == std::string::npos) break;
+    start = joint + 3;
+  }
+  vars.SetVariable(word, out, true);
+}
+
+}  // namespace
+
+void RunStatements(Interpreter& interpreter, std::string text, int firstLine) {
+  FrameDepth depth(interpreter.FrameDepthCounter());
+  Frame frame(interpreter, std::move(text));
+  frame.Run(firstLine);
+}
+
+}  // namespace tamrix

@@ -1,0 +1,57 @@
+// Functions and subroutines. A scan after preparation lists their names; a
+// call finds the declaration again by a text search, cuts the slice up to
+// its end keyword and runs it in a new executor frame. Function parameters
+// and locals become real variables under names unique to the call.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/value.h"
+
+namespace tamrix {
+
+class Interpreter;
+
+class Procedures {
+ public:
+  void Reset();
+  // Fills the tables from the Program Text; reports faults in a stop box.
+  void ScanDeclarations(Interpreter& interpreter, const std::string& text);
+
+  bool IsSub(std::string_view word) const;
+  bool HasTimers() const { return hasTimers_; }
+
+  const std::vector<std::string>& FunctionNames() const { return functionNames_; }
+  const std::vector<std::string>& FunctionReturns() const { return functionReturns_; }
+  const std::vector<std::string>& SubNames() const { return subNames_; }
+  const std::vector<std::string>& TimerNames() const { return timerNames_; }
+  std::vector<std::int16_t>& TimerPeriods() { return timerPeriods_; }
+
+  std::int32_t& CallCounter() { return callCounter_; }
+
+ private:
+  void ScanFunctions(Interpreter& interpreter, const std::string& text);
+  void ScanSubs(Interpreter& interpreter, const std::string& text);
+  void ScanTimers(const std::string& text);
+
+  std::vector<std::string> functionNames_;
+  std::vector<std::string> functionReturns_;
+  std::vector<std::string> subNames_;
+  std::vector<std::string> timerNames_;
+  std::vector<std::int16_t> timerPeriods_;
+  bool hasTimers_ = false;
+  std::int32_t callCounter_ = 0;
+};
+
+// Runs "Sub <name>" ... "EndSub" in a new frame.
+void ExecuteSub(Interpreter& interpreter, const std::string& name);
+// Runs a function with its argument text; the result is the last Return.
+Value CallFunction(Interpreter& interpreter, const std::string& name, const std::string& arguments);
+// Renames whole-word occurrences of `oldName` (between "(", blank, CR and
+// ",", ")", blank, CR).
+void RenameInBody(std::string& body, const std::string& oldName, const std::string& newName);
+
+}  // namespace tamrix

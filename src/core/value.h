@@ -1,0 +1,28 @@
+// A language value: a text, a 32-bit integer or a float, as the evaluator
+// and the variable store hand them around.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <variant>
+
+namespace tamrix {
+
+using Value = std::variant<std::string, std::int32_t, double>;
+
+inline bool IsText(const Value& v) { return std::holds_alternative<std::string>(v); }
+
+// The ordinary text form: integers in decimal, floats with up to 15
+// significant digits and the regional decimal sign.
+std::string TextOf(const Value& v);
+
+// The numeric value; a text is read by the regional rules and a text that is
+// no number is a type mismatch fault.
+double NumberOf(const Value& v);
+
+// "+" on two values: two texts join, anything else is a sum (integers stay
+// integers while they fit).
+Value AddValues(const Value& a, const Value& b);
+Value SubtractValues(const Value& a, const Value& b);
+
+}  // namespace tamrix

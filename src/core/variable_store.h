@@ -1,0 +1,87 @@
+// The three typed variable tables. Names are flat and case-insensitive; a
+// lookup searches String, then Integer, then Decimal, and the first match
+// wins. Name records keep the upper-cased name cut at 50 characters.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "core/value.h"
+
+namespace tamrix {
+
+enum class VarType { String = 0, Integer = 1, Decimal = 2 };
+
+const char* TypeName(VarType type);
+
+class VariableStore {
+ public:
+  // Shows a stop box; set by the interpreter.
+  using StopBoxFunction = std::function<void(const std::string&)>;
+
+  VariableStore();
+  void SetReporting(StopBoxFunction stopBox, const std::string* errorPosition);
+
+  // Empties all three tables.
+  void Reset();
+
+  // The first slot of the variable, or -1; everything from the first "(" on
+  // is ignored. Sets LastType on success.
+  int VarIndex(std::string_view name);
+  const std::string& LastType() const { return lastType_; }
+  VarType LastVarType() const { return lastVarType_; }
+
+  // The value of a variable or array element; a stop box and an empty text
+  // for an undeclared name. An index outside the value array is a fault.
+  Value GetVariable(std::string_view name);
+  // Stores a value converted to the variable's type. An undeclared name
+  // raises the run-time's own error when `complain` is set; a bad index or a
+  // value that does not convert leaves the variable as it was.
+  void SetVariable(std::string_view name, const Value& value, bool complain);
+
+  void DeclareScalar(std::string_view name, std::string_view typeText);
+  void DeclareArray(std::string_view nameWithSize, std::string_view typeText);
+  void RemoveVariable(std::string_view name, bool complain);
+
+  // Counts, for tests and tools.
+  std::size_t RecordCount(VarType type) const { return tables_[Index(type)].records.size(); }
+
+ private:
+  struct Record {
+    std::string name;  // upper case, cut at 50, as compared (trimmed)
+    int first = 0;
+    int size = 1;
+  };
+  struct Table {
+    std::vector<Record> records;
+    std::unordered_map<std::string, std::size_t> index;  // name -> first record
+    int slotsInUse = 0;
+    std::vector<std::string> texts;
+    std::vector<std::int32_t> integers;
+    std::vector<double> decimals;
+  };
+
+  static std::size_t Index(VarType type) { return static_cast<std::size_t>(type); }
+  static std::string RecordName(std::string_view name);
+  void RebuildIndex(Table& table);
+  void ResizeValues(VarType type, int slots);
+  int SlotCount(VarType type) const;
+  Value ReadSlot(VarType type, int slot) const;
+  void WriteSlot(VarType type, int slot, const Value& value);
+  // The element offset of "name(i)": a number, or an Integer variable's value.
+  int ElementIndex(std::string_view name);
+  void AddRecord(VarType type, std::string_view name, int size);
+
+  std::array<Table, 3> tables_;
+  std::string lastType_;
+  VarType lastVarType_ = VarType::String;
+  StopBoxFunction stopBox_;
+  const std::string* errorPosition_ = nullptr;
+};
+
+}  // namespace tamrix

@@ -1,0 +1,154 @@
+#include "image/packer.h"
+
+#include <filesystem>
+
+#include "core/codepage.h"
+#include "core/fault.h"
+#include "core/text.h"
+#include "image/codec.h"
+#include "image/key_table.h"
+#include "image/program_image.h"
+
+namespace tamrix {
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+bool IsNameCharacter(char c) {
+  return (c >= 'A' && c <= 'Z') || IsDigit(c) || c == '_' || c == '-';
+}
+
+std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
+// Encodes `text` with the first key, from a random one on, whose result holds
+// none of `forbidden`: such a sequence would cut the blob when read back.
+std::string EncodeBlob(std::string_view text, const std::vector<std::string>& forbidden,
+                       const std::string& what) {
+  const int first = RandomKeySelector();
+  for (int n = 0; n < kKeyCount; ++n) {
+    std::string blob = EncodeText(text, (first + n) % kKeyCount);
+    bool clean = true;
+    for (const auto& sequence : forbidden) clean = clean && !Contains(blob, sequence);
+    if (clean) return blob;
+  }
+  throw PackError(what + " cannot be stored: every key's encoding holds a separator");
+}
+
+bool ReadsBackAs(const ProgramImage& image, const std::string& programName,
+                 const std::vector<SourceUnit>& units) {
+  if (!image.hasProgram || image.programName != programName + ".ZRC") return false;
+  for (std::size_t unit = 0; unit < kSourceUnits; ++unit) {
+    const bool packed = unit < units.size();
+    if (image.codes[unit] != (packed ? units[unit].text : std::string())) return false;
+    if (unit > 0 && image.names[unit - 1] != (packed ? units[unit].name : std::string())) {
+      return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace
+
+std::string PrepareSource(std::string_view utf8, std::string_view label) {
+  if (StartsWith(utf8, kByteOrderMark)) utf8.remove_prefix(kByteOrderMark.size());
+  std::string out;
+  out.reserve(utf8.size() + utf8.size() / 16);
+  std::size_t lineNumber = 1;
+  for (std::size_t lineStart = 0; lineStart <= utf8.size(); ++lineNumber) {
+    const auto lineEnd = utf8.find('\n', lineStart);
+    const auto line = utf8.substr(lineStart, lineEnd == npos ? npos : lineEnd - lineStart);
+    const auto converted = Utf8ToCp1252(line);
+    if (!converted) {
+      throw PackError(std::string(label) + " line " + std::to_string(lineNumber) +
+                      ": not UTF-8, or a character that Windows-1252 cannot store");
+    }
+    out += *converted;
+    if (lineEnd == npos) break;
+    out += EndsWith(out, "\r") ? "\n" : "\r\n";
+    lineStart = lineEnd + 1;
+  }
+  return out;
+}
+
+std::optional<std::string> ProgramNameProblem(std::string_view name) {
+  if (name.empty()) return "is empty";
+  if (Contains(name, ".")) return "holds a dot";
+  for (char c : name) {
+    if (!IsNameCharacter(c)) return "may only hold letters A-Z, digits, \"_\" and \"-\"";
+  }
+  for (char c : name) {
+    if (IsLetter(c)) return std::nullopt;
+  }
+  return "has no letter";
+}
+
+std::string ProgramNameOf(std::string_view mainPath) {
+  const std::string base = std::filesystem::path(mainPath).stem().string();
+  std::string name = Upper(base);
+  if (const auto problem = ProgramNameProblem(name)) {
+    throw PackError("cannot name the program after " + std::string(mainPath) + ": " +
+                    Quoted(base) + " " + *problem);
+  }
+  return name;
+}
+
+std::string UnitNameOf(std::string_view path) {
+  return Utf8ToCp1252Lossy(std::filesystem::path(path).stem().string());
+}
+
+std::vector<SourceUnit> LoadSourceUnits(const std::vector<std::string>& paths) {
+  if (paths.empty() || paths.size() > kSourceUnits) {
+    throw PackError("a program has one to seven units, not " + std::to_string(paths.size()));
+  }
+  std::vector<SourceUnit> units;
+  for (const auto& path : paths) {
+    std::string bytes;
+    try {
+      bytes = ReadWholeFile(path);
+    } catch (const RuntimeFault& fault) {
+      throw PackError("cannot read " + path + ": " + fault.Description());
+    }
+    units.push_back({units.empty() ? std::string() : UnitNameOf(path), PrepareSource(bytes, path)});
+  }
+  return units;
+}
+
+std::string PackProgram(const std::string& programName, const std::vector<SourceUnit>& units) {
+  if (const auto problem = ProgramNameProblem(programName)) {
+    throw PackError("cannot store the program name: " + Quoted(programName) + " " + *problem);
+  }
+  if (units.empty() || units.size() > kSourceUnits) {
+    throw PackError("a program has one to seven units, not " + std::to_string(units.size()));
+  }
+  const std::string payloadEnd = EndMarker() + programName;
+  const std::vector<std::string> forbidden = {std::string(kCodeEnd), std::string(kNameEnd),
+                                              payloadEnd};
+  std::string payload = EncodeBlob(units[0].text, forbidden, "the main unit") + std::string(kCodeEnd);
+  for (std::size_t unit = 1; unit < units.size(); ++unit) {
+    const std::string what = "unit " + std::to_string(unit) + " " + Quoted(units[unit].name);
+    payload += EncodeBlob(units[unit].name, forbidden, "the name of " + what);
+    payload += kNameEnd;
+    payload += EncodeBlob(units[unit].text, forbidden, what);
+    payload += kCodeEnd;
+  }
+  return StartMarker() + programName + NameEndMarker() + payload + payloadEnd;
+}
+
+std::string PackExecutable(std::string_view stub, const std::string& programName,
+                           const std::vector<SourceUnit>& units) {
+  std::string bytes(stub);
+  bytes += PackProgram(programName, units);
+  ProgramImage image;
+  try {
+    image = ReadProgramImage(bytes);
+  } catch (const RuntimeFault&) {
+    image.hasProgram = false;
+  }
+  if (!ReadsBackAs(image, programName, units)) {
+    throw PackError("the stub already holds a program or a marker text: "
+                    "the packed file would not run this program");
+  }
+  return bytes;
+}
+
+}  // namespace tamrix

@@ -1,0 +1,56 @@
+#include "windows/program_session.h"
+
+#include <QFile>
+#include <QTimer>
+#include <cstdio>
+#include <exception>
+#include <new>
+#include <utility>
+
+#include "core/fault.h"
+#include "windows/about_window.h"
+
+namespace tamrix {
+
+ProgramSession::ProgramSession(Trace& trace, ScriptedAnswers& answers, AutomationHooks hooks)
+    : hooks_(std::move(hooks)), desktop_(janela_), interpreter_(desktop_, trace, answers) {
+  janela_.SetClosingHandler([this] { Close(); });
+  desktop_.SetLanguageTickHandler([this] { Guarded([this] { interpreter_.OnLanguageTimerTick(); }); });
+}
+
+void ProgramSession::Guarded(const std::function<void()>& work) {
+  try {
+    work();
+  } catch (const RuntimeFault& fault) {
+    interpreter_.Fatal(fault);
+  } catch (const std::bad_alloc&) {
+    interpreter_.Fatal(RuntimeFault(kOutOfMemory, FaultDescription(kOutOfMemory)));
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "tamrix: %s\n", error.what());
+    interpreter_.Fatal(RuntimeFault(kInvalidCall, FaultDescription(kInvalidCall)));
+  }
+}
+
+void ProgramSession::Start(LaunchInfo launch) {
+  interpreter_.SetLaunch(std::move(launch));
+  QTimer::singleShot(0, &janela_, [this] {
+    Guarded([this] { interpreter_.RunFirstActivation(); });
+    if (hooks_.exitAfterRun) janela_.CloseAsUser();
+  });
+}
+
+void ProgramSession::RunAboutWindow() {
+  desktop_.SetBoxPresenter([](const BoxRequest&) { return ShowAboutWindow(); });
+  interpreter_.Box(AboutBoxRequest());
+  interpreter_.EndProcess(0);
+}
+
+void ProgramSession::Close() {
+  if (!hooks_.snapshotPath.empty()) {
+    janela_.SaveSnapshot(QFile::decodeName(hooks_.snapshotPath.c_str()));
+  }
+  Guarded([this] { interpreter_.OnMainWindowClosing(); });
+  interpreter_.EndProcess(0);
+}
+
+}  // namespace tamrix

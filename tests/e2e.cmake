@@ -1,0 +1,15 @@
+# The tests that need the Qt run-time: the Qt layer's own tests, and one
+# end-to-end test per tests/programs/<name>.expected, run by run_program.sh
+# (which tells what files make a case).
+add_subdirectory(qt)
+
+file(GLOB TAMRIX_E2E_CASES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/programs/*.expected)
+foreach(expected IN LISTS TAMRIX_E2E_CASES)
+  string(REGEX REPLACE "\\.expected$" "" case_path ${expected})
+  get_filename_component(case_name ${case_path} NAME)
+  add_test(NAME e2e.${case_name}
+    COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/run_program.sh
+      $<TARGET_FILE:tamrix> $<TARGET_FILE:tamrix-pack> ${case_path}
+      ${CMAKE_CURRENT_BINARY_DIR}/e2e/${case_name})
+  set_tests_properties(e2e.${case_name} PROPERTIES TIMEOUT 60)
+endforeach()
