@@ -28,6 +28,7 @@ timeout_seconds=20
 
 rm -rf "$work"
 mkdir -p "$work"
+mkdir -m 700 "$work/.runtime"
 program="$work/$name"
 trace="$work/trace.txt"
 
@@ -59,7 +60,7 @@ status=0
 (
   cd "$work"
   env -u TAMRIX_SNAPSHOT -u TAMRIX_INPUT -u TAMRIX_PRINTER \
-    QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 \
+    QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR="$work/.runtime" LC_ALL=C.UTF-8 \
     TAMRIX_EXIT=1 TAMRIX_TRACE="$trace" TAMRIX_ANSWERS="$answers" \
     "${extra_env[@]}" \
     timeout "$timeout_seconds" "$program" "${args[@]}"

@@ -1,5 +1,6 @@
 #include "image/packer.h"
 
+#include <algorithm>
 #include <filesystem>
 
 #include "core/codepage.h"
@@ -27,15 +28,14 @@ std::string EncodeBlob(std::string_view text, const std::vector<std::string>& fo
   const int first = RandomKeySelector();
   for (int n = 0; n < kKeyCount; ++n) {
     std::string blob = EncodeText(text, (first + n) % kKeyCount);
-    bool clean = true;
-    for (const auto& sequence : forbidden) clean = clean && !Contains(blob, sequence);
-    if (clean) return blob;
+    const auto inBlob = [&blob](const std::string& sequence) { return Contains(blob, sequence); };
+    if (std::none_of(forbidden.begin(), forbidden.end(), inBlob)) return blob;
   }
   throw PackError(what + " cannot be stored: every key's encoding holds a separator");
 }
 
-bool ReadsBackAs(const ProgramImage& image, const std::string& programName,
-                 const std::vector<SourceUnit>& units) {
+bool ImageHolds(const ProgramImage& image, const std::string& programName,
+                const std::vector<SourceUnit>& units) {
   if (!image.hasProgram || image.programName != programName + ".ZRC") return false;
   for (std::size_t unit = 0; unit < kSourceUnits; ++unit) {
     const bool packed = unit < units.size();
@@ -47,9 +47,18 @@ bool ReadsBackAs(const ProgramImage& image, const std::string& programName,
   return true;
 }
 
+bool ReadsBackAs(std::string_view bytes, const std::string& programName,
+                 const std::vector<SourceUnit>& units) {
+  try {
+    return ImageHolds(ReadProgramImage(bytes), programName, units);
+  } catch (const RuntimeFault&) {
+    return false;
+  }
+}
+
 }  // namespace
 
-std::string PrepareSource(std::string_view utf8, std::string_view label) {
+std::string ConvertSourceFile(std::string_view utf8, std::string_view label) {
   if (StartsWith(utf8, kByteOrderMark)) utf8.remove_prefix(kByteOrderMark.size());
   std::string out;
   out.reserve(utf8.size() + utf8.size() / 16);
@@ -73,18 +82,16 @@ std::string PrepareSource(std::string_view utf8, std::string_view label) {
 std::optional<std::string> ProgramNameProblem(std::string_view name) {
   if (name.empty()) return "is empty";
   if (Contains(name, ".")) return "holds a dot";
-  for (char c : name) {
-    if (!IsNameCharacter(c)) return "may only hold letters A-Z, digits, \"_\" and \"-\"";
+  if (!std::all_of(name.begin(), name.end(), IsNameCharacter)) {
+    return "may only hold letters A-Z, digits, \"_\" and \"-\"";
   }
-  for (char c : name) {
-    if (IsLetter(c)) return std::nullopt;
-  }
-  return "has no letter";
+  if (!std::any_of(name.begin(), name.end(), IsLetter)) return "has no letter";
+  return std::nullopt;
 }
 
 std::string ProgramNameOf(std::string_view mainPath) {
   const std::string base = std::filesystem::path(mainPath).stem().string();
-  std::string name = Upper(base);
+  const std::string name = Upper(base);
   if (const auto problem = ProgramNameProblem(name)) {
     throw PackError("cannot name the program after " + std::string(mainPath) + ": " +
                     Quoted(base) + " " + *problem);
@@ -108,7 +115,7 @@ std::vector<SourceUnit> LoadSourceUnits(const std::vector<std::string>& paths) {
     } catch (const RuntimeFault& fault) {
       throw PackError("cannot read " + path + ": " + fault.Description());
     }
-    units.push_back({units.empty() ? std::string() : UnitNameOf(path), PrepareSource(bytes, path)});
+    units.push_back({units.empty() ? std::string() : UnitNameOf(path), ConvertSourceFile(bytes, path)});
   }
   return units;
 }
@@ -123,7 +130,8 @@ std::string PackProgram(const std::string& programName, const std::vector<Source
   const std::string payloadEnd = EndMarker() + programName;
   const std::vector<std::string> forbidden = {std::string(kCodeEnd), std::string(kNameEnd),
                                               payloadEnd};
-  std::string payload = EncodeBlob(units[0].text, forbidden, "the main unit") + std::string(kCodeEnd);
+  std::string payload = EncodeBlob(units[0].text, forbidden, "the main unit");
+  payload += kCodeEnd;
   for (std::size_t unit = 1; unit < units.size(); ++unit) {
     const std::string what = "unit " + std::to_string(unit) + " " + Quoted(units[unit].name);
     payload += EncodeBlob(units[unit].name, forbidden, "the name of " + what);
@@ -138,13 +146,7 @@ std::string PackExecutable(std::string_view stub, const std::string& programName
                            const std::vector<SourceUnit>& units) {
   std::string bytes(stub);
   bytes += PackProgram(programName, units);
-  ProgramImage image;
-  try {
-    image = ReadProgramImage(bytes);
-  } catch (const RuntimeFault&) {
-    image.hasProgram = false;
-  }
-  if (!ReadsBackAs(image, programName, units)) {
+  if (!ReadsBackAs(bytes, programName, units)) {
     throw PackError("the stub already holds a program or a marker text: "
                     "the packed file would not run this program");
   }

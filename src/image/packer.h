@@ -25,7 +25,7 @@ class PackError : public std::runtime_error {
 // ends become CR LF (CR LF stays); a leading byte-order mark is dropped. A
 // line that is not UTF-8 or has no Windows-1252 form is refused, naming
 // `label` and the line.
-std::string PrepareSource(std::string_view utf8, std::string_view label);
+std::string ConvertSourceFile(std::string_view utf8, std::string_view label);
 
 // Why `name` cannot be stored as a program name, or nothing. A stored name
 // holds only upper-case letters A-Z, digits, "_" and "-", and at least one

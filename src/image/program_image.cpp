@@ -65,7 +65,8 @@ std::string EndMarker() { return Joined("FIM", "PROGZR"); }
 
 ProgramImage ReadProgramImage(std::string_view fileBytes) {
   ProgramImage image;
-  const long nameStart = Position(fileBytes, StartMarker()) + static_cast<long>(StartMarker().size());
+  const std::string start = StartMarker();
+  const long nameStart = Position(fileBytes, start) + static_cast<long>(start.size());
   const long nameEnd = Position(fileBytes, NameEndMarker());
   if (nameEnd == 0) return image;
   image.hasProgram = true;

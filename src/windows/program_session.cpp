@@ -7,6 +7,7 @@
 #include <new>
 #include <utility>
 
+#include "commands/command_families.h"
 #include "core/fault.h"
 #include "windows/about_window.h"
 
@@ -14,6 +15,7 @@ namespace tamrix {
 
 ProgramSession::ProgramSession(Trace& trace, ScriptedAnswers& answers, AutomationHooks hooks)
     : hooks_(std::move(hooks)), desktop_(janela_), interpreter_(desktop_, trace, answers) {
+  RegisterCoreCommandFamilies(interpreter_.Commands());
   janela_.SetClosingHandler([this] { Close(); });
   desktop_.SetLanguageTickHandler([this] { Guarded([this] { interpreter_.OnLanguageTimerTick(); }); });
 }

@@ -1,0 +1,294 @@
+// tamrix-pack: joins the run-time stub "tamrix" and a program's source units
+// into one executable, or packs a program and runs it at once.
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/fault.h"
+#include "core/text.h"
+#include "image/packer.h"
+#include "image/program_image.h"
+
+namespace tamrix {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kNothingPacked = 2;
+constexpr int kCouldNotStart = 127;
+constexpr int kSignalBase = 128;
+
+constexpr std::string_view kHelp = R"(Usage: tamrix-pack [-o OUTPUT] MAIN.tam [UNIT.tam ...]
+       tamrix-pack --run MAIN.tam [UNIT.tam ...] [-- ARGUMENTS ...]
+
+Packs a Tamrix program into one executable: a copy of the run-time "tamrix"
+found beside tamrix-pack, followed by the program's source units.
+
+  MAIN.tam     the main unit; up to six further units may follow it
+  -o OUTPUT    the executable to write; by default the lower-case base name
+               of MAIN in the current folder (hello.tam gives ./hello)
+  --run        pack into a hidden temporary file beside MAIN, run it with
+               ARGUMENTS as its command line, and remove it afterwards
+  -h, --help   show this text
+
+Source files are UTF-8; they are stored in Windows-1252 with CR LF line ends
+(a leading byte-order mark is dropped). A line that is not UTF-8, or holds a
+character that Windows-1252 cannot store, is refused.
+
+The program is named after MAIN: its base name without folder and extension,
+upper-cased. That name may hold only letters A-Z, digits, "_" and "-", and at
+least one letter: no dot, blank or accented letter. Further units are named
+after their base names.
+
+OUTPUT must have no extension, or ".exe" or ".scr": the run-time refuses to
+start under any other name. It is written beside itself under a temporary
+name first, so a failed run leaves no file behind.
+
+Exit status: 0 when packed; 2 when nothing was written (a bad argument, a
+missing or unreadable file, more than seven units, a name that cannot be
+stored, text without a Windows-1252 form, no run-time beside tamrix-pack).
+With --run: the program's exit status, 128 + n when signal n ended it, 2 when
+it could not be packed, 127 when it could not be started.
+)";
+
+// A mistake in the command line itself; the message points to --help.
+class UsageError : public PackError {
+ public:
+  using PackError::PackError;
+};
+
+struct Options {
+  bool help = false;
+  bool run = false;
+  std::string output;                  // empty: the default name
+  std::vector<std::string> sources;    // MAIN first
+  std::vector<std::string> arguments;  // the program's command line, with --run
+};
+
+Options ParseOptions(const std::vector<std::string>& args) {
+  Options options;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    const std::string& arg = args[i];
+    if (arg == "-h" || arg == "--help") {
+      options.help = true;
+    } else if (arg == "--run") {
+      options.run = true;
+    } else if (arg == "-o") {
+      if (++i == args.size()) throw UsageError("-o needs a file name");
+      options.output = args[i];
+    } else if (arg == "--") {
+      if (!options.run) throw UsageError("\"--\" passes arguments to the program only with --run");
+      options.arguments.assign(args.begin() + static_cast<std::ptrdiff_t>(i) + 1, args.end());
+      break;
+    } else if (StartsWith(arg, "-") && arg != "-") {
+      throw UsageError("unknown option " + arg);
+    } else {
+      options.sources.push_back(arg);
+    }
+  }
+  if (options.help) return options;
+  if (options.sources.empty()) throw UsageError("no MAIN file given");
+  if (options.run && !options.output.empty()) throw UsageError("-o does not go with --run");
+  return options;
+}
+
+std::string SystemError(const std::string& what) { return what + ": " + std::strerror(errno); }
+
+fs::path OwnFolder() {
+  std::error_code error;
+  const auto self = fs::read_symlink("/proc/self/exe", error);
+  if (error) throw PackError("cannot find tamrix-pack's own folder: " + error.message());
+  return self.parent_path();
+}
+
+std::string ReadStub(const fs::path& stub) {
+  try {
+    return ReadWholeFile(stub.string());
+  } catch (const RuntimeFault& fault) {
+    throw PackError("no run-time stub at " + stub.string() + ": " + fault.Description());
+  }
+}
+
+bool SameFile(const fs::path& a, const fs::path& b) {
+  std::error_code error;
+  return fs::equivalent(a, b, error);
+}
+
+fs::path OutputPath(const Options& options, const std::string& programName,
+                    const fs::path& stub) {
+  const fs::path output = options.output.empty() ? fs::path(Lower(programName))
+                                                 : fs::path(options.output);
+  std::error_code error;
+  if (!output.has_filename() || fs::is_directory(output, error)) {
+    throw PackError("the output " + output.string() + " is a folder, not a file");
+  }
+  if (!HasRunnableExtension(output.filename().string())) {
+    throw PackError("the output " + output.string() +
+                    " must have no extension, or .exe or .scr, or the run-time refuses it");
+  }
+  if (SameFile(output, stub)) throw PackError("the output would replace the run-time stub");
+  for (const auto& source : options.sources) {
+    if (SameFile(output, source)) throw PackError("the output would replace " + source);
+  }
+  return output;
+}
+
+// A file under a unique name, executable for everyone, removed again unless
+// it is moved into place.
+class TemporaryExecutable {
+ public:
+  // `prefix` is a path whose file name part begins the temporary name.
+  TemporaryExecutable(const fs::path& prefix, std::string_view bytes) {
+    std::string pattern = prefix.string() + "XXXXXX";
+    const int fd = ::mkstemp(pattern.data());
+    if (fd < 0) {
+      const fs::path folder = prefix.has_parent_path() ? prefix.parent_path() : fs::path(".");
+      throw PackError(SystemError("cannot create a file in " + folder.string()));
+    }
+    const bool written = WriteAll(fd, bytes) && ::fchmod(fd, 0755) == 0;
+    std::string failure = written ? std::string() : SystemError("cannot write " + pattern);
+    if (::close(fd) != 0 && written) failure = SystemError("cannot write " + pattern);
+    if (!failure.empty()) {
+      ::unlink(pattern.c_str());
+      throw PackError(failure);
+    }
+    path_ = std::move(pattern);
+  }
+  ~TemporaryExecutable() {
+    if (!path_.empty()) ::unlink(path_.c_str());
+  }
+  TemporaryExecutable(const TemporaryExecutable&) = delete;
+  TemporaryExecutable& operator=(const TemporaryExecutable&) = delete;
+
+  const std::string& Path() const { return path_; }
+
+  void MoveTo(const fs::path& target) {
+    if (::rename(path_.c_str(), target.c_str()) != 0) {
+      throw PackError(SystemError("cannot write " + target.string()));
+    }
+    path_.clear();
+  }
+
+ private:
+  static bool WriteAll(int fd, std::string_view bytes) {
+    while (!bytes.empty()) {
+      const ssize_t done = ::write(fd, bytes.data(), bytes.size());
+      if (done < 0 && errno == EINTR) continue;
+      if (done <= 0) return false;
+      bytes.remove_prefix(static_cast<std::size_t>(done));
+    }
+    return true;
+  }
+
+  std::string path_;
+};
+
+std::string PackedBytes(const Options& options, const std::string& programName,
+                        const fs::path& stub) {
+  return PackExecutable(ReadStub(stub), programName, LoadSourceUnits(options.sources));
+}
+
+int Pack(const Options& options) {
+  const std::string programName = ProgramNameOf(options.sources[0]);
+  const fs::path stub = OwnFolder() / "tamrix";
+  const fs::path output = OutputPath(options, programName, stub);
+  const std::string hiddenName = "." + output.filename().string() + ".tamrix-pack-";
+  TemporaryExecutable file(output.parent_path() / hiddenName,
+                           PackedBytes(options, programName, stub));
+  file.MoveTo(output);
+  return 0;
+}
+
+// While the program runs, the keyboard's interrupt and quit reach only it, so
+// that the packed file is still removed afterwards.
+class KeyboardSignalsIgnored {
+ public:
+  KeyboardSignalsIgnored() {
+    struct sigaction ignore {};
+    ignore.sa_handler = SIG_IGN;
+    ::sigaction(SIGINT, &ignore, &interrupt_);
+    ::sigaction(SIGQUIT, &ignore, &quit_);
+  }
+  ~KeyboardSignalsIgnored() { Restore(); }
+  KeyboardSignalsIgnored(const KeyboardSignalsIgnored&) = delete;
+  KeyboardSignalsIgnored& operator=(const KeyboardSignalsIgnored&) = delete;
+
+  void Restore() const {
+    ::sigaction(SIGINT, &interrupt_, nullptr);
+    ::sigaction(SIGQUIT, &quit_, nullptr);
+  }
+
+ private:
+  struct sigaction interrupt_ {};
+  struct sigaction quit_ {};
+};
+
+// Runs `program` with `arguments` as its command line and passes its exit
+// status on.
+int RunAndWait(const std::string& program, const std::vector<std::string>& arguments) {
+  std::vector<char*> argv;
+  argv.push_back(const_cast<char*>(program.c_str()));
+  for (const auto& arg : arguments) argv.push_back(const_cast<char*>(arg.c_str()));
+  argv.push_back(nullptr);
+
+  const KeyboardSignalsIgnored keyboard;
+  const pid_t child = ::fork();
+  if (child == 0) {
+    keyboard.Restore();
+    ::execv(program.c_str(), argv.data());
+    std::cerr << SystemError("tamrix-pack: cannot start " + program) << "\n";
+    ::_exit(kCouldNotStart);
+  }
+  if (child < 0) {
+    std::cerr << SystemError("tamrix-pack: cannot start " + program) << "\n";
+    return kCouldNotStart;
+  }
+  int status = 0;
+  while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
+  }
+  if (WIFSIGNALED(status)) return kSignalBase + WTERMSIG(status);
+  return WEXITSTATUS(status);
+}
+
+int PackAndRun(const Options& options) {
+  const fs::path main(options.sources[0]);
+  const std::string programName = ProgramNameOf(main.string());
+  // Beside MAIN, so that the program's folder is its source folder. The
+  // leading dot is no extension, so the run-time accepts the name.
+  const TemporaryExecutable file(main.parent_path() / ("." + main.stem().string() + "-tamrix-run-"),
+                                 PackedBytes(options, programName, OwnFolder() / "tamrix"));
+  return RunAndWait(file.Path(), options.arguments);
+}
+
+int Main(const std::vector<std::string>& args) {
+  try {
+    const Options options = ParseOptions(args);
+    if (options.help) {
+      std::cout << kHelp;
+      return 0;
+    }
+    return options.run ? PackAndRun(options) : Pack(options);
+  } catch (const UsageError& error) {
+    std::cerr << "tamrix-pack: " << error.what() << "\nTry 'tamrix-pack --help'.\n";
+  } catch (const PackError& error) {
+    std::cerr << "tamrix-pack: " << error.what() << "\n";
+  }
+  return kNothingPacked;
+}
+
+}  // namespace
+}  // namespace tamrix
+
+int main(int argc, char** argv) { return tamrix::Main({argv + 1, argv + argc}); }
