@@ -8,6 +8,7 @@ packages=(
   libgl-dev libfreeimage-dev libffi-dev libcurl4-openssl-dev
   libgtest-dev googletest
   fonts-liberation fonts-dejavu-core xvfb xauth locales
+  clang libclang-rt-14-dev
 )
 missing=()
 for p in "${packages[@]}"; do

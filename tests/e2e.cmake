@@ -3,6 +3,12 @@
 # (which tells what files make a case).
 add_subdirectory(qt)
 
+# Checks sampled pixels of a snapshot against a <name>.pixels file.
+find_package(Qt6 REQUIRED COMPONENTS Gui)
+add_executable(tamrix_snapshot_pixels tools/snapshot_pixels.cpp)
+target_link_libraries(tamrix_snapshot_pixels PRIVATE Qt6::Gui)
+target_compile_options(tamrix_snapshot_pixels PRIVATE ${TAMRIX_WARNINGS})
+
 file(GLOB TAMRIX_E2E_CASES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/programs/*.expected)
 foreach(expected IN LISTS TAMRIX_E2E_CASES)
   string(REGEX REPLACE "\\.expected$" "" case_path ${expected})
@@ -10,6 +16,7 @@ foreach(expected IN LISTS TAMRIX_E2E_CASES)
   add_test(NAME e2e.${case_name}
     COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/run_program.sh
       $<TARGET_FILE:tamrix> $<TARGET_FILE:tamrix-pack> ${case_path}
-      ${CMAKE_CURRENT_BINARY_DIR}/e2e/${case_name})
-  set_tests_properties(e2e.${case_name} PROPERTIES TIMEOUT 60)
+      ${CMAKE_CURRENT_BINARY_DIR}/e2e/${case_name} $<TARGET_FILE:tamrix_snapshot_pixels>)
+  set_tests_properties(e2e.${case_name} PROPERTIES TIMEOUT 60
+    ENVIRONMENT "TAMRIX_DB=$<TARGET_FILE:tamrix-db>")
 endforeach()

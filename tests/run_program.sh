@@ -2,7 +2,7 @@
 # Runs one end-to-end case unattended and compares its trace with the
 # expected one.
 #
-#   run_program.sh <tamrix> <tamrix-pack> <case> <work-folder>
+#   run_program.sh <tamrix> <tamrix-pack> <case> <work-folder> [<snapshot-pixels>]
 #
 # <case> is tests/programs/<name>, and the case is made of files beside it:
 #   <name>.expected     the trace that the run must write, exactly (required)
@@ -14,6 +14,12 @@
 #   <name>.args         command-line arguments, split at blanks
 #   <name>.env          extra VARIABLE=value lines for the run (LC_ALL=...)
 #   <name>.files/       copied beside the program before it runs
+#   <name>.input        replayed user input (TAMRIX_INPUT)
+#   <name>.pixels       pixels that the snapshot of the main window must show,
+#                       checked by <snapshot-pixels> (see tools/snapshot_pixels.cpp)
+#   <name>.post         a bash script run in <work-folder> after the trace
+#                       matched, with TAMRIX_DB naming the record file tool;
+#                       the case fails when it fails
 # The program runs in <work-folder> under the offscreen platform with
 # TAMRIX_EXIT=1, at most 20 seconds, and its exit status must be the one
 # that its trace names.
@@ -23,6 +29,7 @@ stub=$1
 packer=$2
 case_path=$3
 work=$4
+pixel_checker=${5:-}
 name=$(basename "$case_path")
 timeout_seconds=20
 
@@ -50,6 +57,9 @@ answers=""
 args=()
 [[ -f "$case_path.args" ]] && read -ra args <"$case_path.args"
 extra_env=()
+[[ -f "$case_path.input" ]] && extra_env+=("TAMRIX_INPUT=$case_path.input")
+snapshot="$work/snapshot.png"
+[[ -f "$case_path.pixels" ]] && extra_env+=("TAMRIX_SNAPSHOT=$snapshot")
 if [[ -f "$case_path.env" ]]; then
   while IFS= read -r line; do
     [[ -z "$line" || "$line" == \#* ]] || extra_env+=("$line")
@@ -80,5 +90,21 @@ traced_status=$(awk -F'\t' '$1 == "exit" { s = $2 } END { print s }' "$trace")
 if [[ -n "$traced_status" && "$traced_status" != "$status" ]]; then
   echo "FAIL: $name traced exit status $traced_status but ended with $status"
   exit 1
+fi
+if [[ -f "$case_path.pixels" ]]; then
+  if [[ -z "$pixel_checker" ]]; then
+    echo "FAIL: $name has pixels to check but no checker was given"
+    exit 1
+  fi
+  if ! "$pixel_checker" "$snapshot" "$case_path.pixels"; then
+    echo "FAIL: $name drew other pixels"
+    exit 1
+  fi
+fi
+if [[ -f "$case_path.post" ]]; then
+  if ! (cd "$work" && bash "$case_path.post"); then
+    echo "FAIL: $name failed its post-check"
+    exit 1
+  fi
 fi
 echo "ok: $name"

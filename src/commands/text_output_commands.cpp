@@ -23,7 +23,7 @@ Value Write(CommandCall& call) {
     }
     text += TextOf(args.Number(i));
   }
-  Surface& surface = in.Screen().CurrentSurface();
+  Surface& surface = in.Windows().CurrentSurface();
   if (toCaption) {
     surface.SetCaption(text);
     in.Tracer().Write({"caption", surface.Name(), text});
@@ -59,7 +59,7 @@ Value Position(CommandCall& call) {
 // cursor stays where it was.
 Value ClearSurface(CommandCall& call) {
   Interpreter& in = call.interpreter;
-  in.Screen().CurrentSurface().Clear();
+  in.Windows().CurrentSurface().Clear();
   in.Cursor().x = 0;
   in.Cursor().y = 0;
   return std::string();

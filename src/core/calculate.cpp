@@ -5,6 +5,7 @@
 
 #include "core/fault.h"
 #include "core/numbers.h"
+#include "core/stack_guard.h"
 #include "core/text.h"
 
 namespace tamrix {
@@ -54,6 +55,7 @@ class Reader {
           accumulator = std::pow(accumulator, Frame(8, 0));
           break;
         case '(':
+          CheckStackSpace();
           accumulator = Frame(0, 0);
           break;
         case ')':

@@ -78,8 +78,10 @@ std::vector<std::string> SplitArguments(Interpreter& interpreter, std::string_vi
                   [&](std::string_view call) { return Contains(upper, call); })) {
     // Calls whose commas must survive the split run first.
     CallRecord call;
+    RewriteGuard guard;
     while (FindCommandCall(interpreter, work, call)) {
       ExecuteCommandCall(interpreter, work, call, numericFlag);
+      guard.Step(work);
     }
   }
   std::vector<std::string> parts(capacity);

@@ -1,6 +1,7 @@
 #include "core/evaluator.h"
 
 #include "core/calculate.h"
+#include "core/fault.h"
 #include "core/interpreter.h"
 #include "core/keywords.h"
 #include "core/numbers.h"
@@ -56,6 +57,12 @@ std::string RestBehind(const std::string& expr, const std::string& args, std::si
 }
 
 }  // namespace
+
+void RewriteGuard::Step(const std::string& expr) {
+  constexpr int kMaxRewrites = 10000;
+  if (++count_ > kMaxRewrites) Throw(kOutOfStackSpace);
+  CheckTextSize(expr.size());
+}
 
 std::string TagBrackets(std::string_view text) {
   const std::string plain = StripTags(text);
@@ -198,13 +205,16 @@ std::string ExpandVariables(Interpreter& interpreter, std::string_view expr, int
 Value Evaluate(Interpreter& interpreter, std::string_view source, bool& numericFlag) {
   std::string expr = Trim(StripTags(source));
   CallRecord call;
+  RewriteGuard guard;
   while (FindCommandCall(interpreter, expr, call)) {
     if (IsNumericKeyword(Upper(call.name))) numericFlag = true;
     ExecuteCommandCall(interpreter, expr, call, numericFlag);
+    guard.Step(expr);
   }
   std::string returnType;
   while (FindFunctionCall(interpreter, expr, call, returnType)) {
     ExecuteFunctionCall(interpreter, expr, call, returnType);
+    guard.Step(expr);
   }
   if (IsNumeric(expr)) return Val(expr);
   if (IsArithmetic(expr)) {
@@ -220,13 +230,16 @@ Value Evaluate(Interpreter& interpreter, std::string_view source, bool& numericF
 Value EvaluateText(Interpreter& interpreter, std::string_view source, bool& numericFlag) {
   std::string expr(source);
   CallRecord call;
+  RewriteGuard guard;
   while (FindCommandCall(interpreter, expr, call)) {
     if (IsNumericKeyword(Upper(call.name))) numericFlag = true;
     ExecuteCommandCall(interpreter, expr, call, numericFlag);
+    guard.Step(expr);
   }
   std::string returnType;
   while (FindFunctionCall(interpreter, expr, call, returnType)) {
     ExecuteFunctionCall(interpreter, expr, call, returnType);
+    guard.Step(expr);
   }
   if (interpreter.Variables().VarIndex(expr) >= 0) return interpreter.Variables().GetVariable(expr);
   return StripQuotes(expr);

@@ -19,6 +19,18 @@ struct CallRecord {
   std::string arguments;
 };
 
+// Bounds one loop of rewrites. A text whose calls keep rewriting into
+// further calls would loop for ever or grow without end: past 10,000
+// rewrites the run ends with the stack fault, past the text limit with the
+// memory fault.
+class RewriteGuard {
+ public:
+  void Step(const std::string& expr);
+
+ private:
+  int count_ = 0;
+};
+
 Value Evaluate(Interpreter& interpreter, std::string_view expr, bool& numericFlag);
 Value EvaluateText(Interpreter& interpreter, std::string_view expr, bool& numericFlag);
 

@@ -12,31 +12,13 @@
 #include "core/numbers.h"
 #include "core/preparation.h"
 #include "core/procedures.h"
+#include "core/stack_guard.h"
 #include "core/text.h"
 
 namespace tamrix {
 namespace {
 
-// Deeper nesting of frames ends as the run-time's stack fault.
-constexpr int kMaxFrameDepth = 1500;
-
 std::string LineTag(int pc) { return "&#" + ZeroPadded(pc, 5); }
-
-class FrameDepth {
- public:
-  explicit FrameDepth(int& depth) : depth_(depth) {
-    if (++depth_ > kMaxFrameDepth) {
-      --depth_;
-      Throw(kOutOfStackSpace);
-    }
-  }
-  ~FrameDepth() { --depth_; }
-  FrameDepth(const FrameDepth&) = delete;
-  FrameDepth& operator=(const FrameDepth&) = delete;
-
- private:
-  int& depth_;
-};
 
 class Frame {
  public:
@@ -138,6 +120,11 @@ std::string Frame::GoToPrefix(const std::string& line) const {
 Frame::Next Frame::Step() {
   RunState& state = in_.State();
   if (!state.programActive || state.windowStopFlag || state.stopFlag) return Next::End;
+  if (state.statementBudget == 0) {
+    state.programActive = false;
+    return Next::End;
+  }
+  if (state.statementBudget > 0) --state.statementBudget;
 
   std::string line = text_.substr(lineStart_, lineEnd_ - lineStart_);
   if (line.size() >= kStatementColumn) {
@@ -233,10 +220,11 @@ Frame::Next Frame::Step() {
 
 Frame::Next Frame::Increment(const std::string& line, std::string_view sign) {
   flag_ = true;
-  const auto p = line.find(sign);
-  const auto blank = p == 0 ? std::string::npos : line.rfind(' ', p - 1);
-  const auto nameStart = blank == std::string::npos ? 0 : blank + 1;
-  const std::string name = line.substr(nameStart, p - nameStart);
+  // The name is the last word before the sign; blanks between them are
+  // passed over, so "n --" counts n down like "n--".
+  const std::string before = TrimRight(line.substr(0, line.find(sign)));
+  const auto blank = before.rfind(' ');
+  const std::string name = before.substr(blank == std::string::npos ? 0 : blank + 1);
   VariableStore& vars = in_.Variables();
   const Value one = std::int32_t{1};
   const Value current = vars.GetVariable(name);
@@ -328,14 +316,22 @@ void Frame::Assign(const std::string& line, const std::string& word, bool numeri
     vars.SetVariable(word, CallFunction(in_, expr.substr(0, expr.size() - 2), ""), true);
     return;
   }
-  while (FindFunctionCall(in_, expr, call, returnType)) ExecuteFunctionCall(in_, expr, call, returnType);
-  while (FindCommandCall(in_, expr, call)) ExecuteCommandCall(in_, expr, call, numeric);
+  RewriteGuard guard;
+  while (FindFunctionCall(in_, expr, call, returnType)) {
+    ExecuteFunctionCall(in_, expr, call, returnType);
+    guard.Step(expr);
+  }
+  while (FindCommandCall(in_, expr, call)) {
+    ExecuteCommandCall(in_, expr, call, numeric);
+    guard.Step(expr);
+  }
 
   const auto parts = SplitArguments(in_, expr, 11, false, numeric);
   std::string out;
   for (const auto& part : parts) {
     if (part.empty()) break;
     out += TextOf(textParts ? EvaluateText(in_, part, numeric) : Evaluate(in_, part, numeric));
+    CheckTextSize(out.size());
   }
   vars.SetVariable(word, out, true);
 }
@@ -359,6 +355,7 @@ void Frame::Concatenate(const std::string& expr, const std::string& word) {
       std::string arguments = StripTags(call.arguments);
       out += StripQuotes(TextOf(in_.Commands().RunCommand(in_, call.name, arguments)));
     }
+    CheckTextSize(out.size());
     if (joint == std::string::npos) break;
     start = joint + 3;
   }
@@ -368,7 +365,7 @@ void Frame::Concatenate(const std::string& expr, const std::string& word) {
 }  // namespace
 
 void RunStatements(Interpreter& interpreter, std::string text, int firstLine) {
-  FrameDepth depth(interpreter.FrameDepthCounter());
+  CheckStackSpace();
   Frame frame(interpreter, std::move(text));
   frame.Run(firstLine);
 }

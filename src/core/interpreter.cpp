@@ -4,7 +4,9 @@
 
 #include "core/block_linking.h"
 #include "core/executor.h"
+#include "core/object_closing.h"
 #include "core/preparation.h"
+#include "core/stack_guard.h"
 #include "core/text.h"
 
 namespace tamrix {
@@ -52,6 +54,7 @@ SystemFolders FindSystemFolders() {
 
 Interpreter::Interpreter(Desktop& desktop, Trace& trace, ScriptedAnswers& answers)
     : desktop_(desktop), trace_(trace), answers_(answers) {
+  RecordStackBase();
   variables_.SetReporting([this](const std::string& text) { StopBox(text); }, &state_.errorPosition);
 }
 
@@ -161,6 +164,8 @@ void Interpreter::RunFirstActivation() {
   try {
     variables_.Reset();
     procedures_.Reset();
+    objects_.Reset();
+    StartWindowSystem(*this);
     tickCount_ = 0;
     desktop_.SetMainCaption("Tamrix - " + launch_.programName);
     DeclareBuiltInVariables();
@@ -202,6 +207,8 @@ void Interpreter::OnLanguageTimerTick() {
 void Interpreter::OnMainWindowClosing() {
   state_.programActive = false;
   desktop_.SetLanguageTimer(false);
+  StopWindowTimers(*this);
+  ShutdownObjects(*this);
   for (const auto& hook : shutdownHooks_) hook();
 }
 

@@ -13,9 +13,12 @@
 #include "core/desktop.h"
 #include "core/dispatcher.h"
 #include "core/fault.h"
+#include "core/object_table.h"
 #include "core/procedures.h"
 #include "core/value.h"
 #include "core/variable_store.h"
+#include "core/window_events.h"
+#include "core/window_table.h"
 
 namespace tamrix {
 
@@ -34,6 +37,9 @@ struct RunState {
   bool windowStopFlag = false;
   std::string errorPosition;
   Value returnValue = std::string();
+  // Statements left before the run ends by itself; negative for no limit.
+  // Only tests and fuzzing set it.
+  long statementBudget = -1;
 };
 
 // Pixels per language line and column; the language variables LinSize and
@@ -47,6 +53,12 @@ struct Geometry {
 struct Mailboxes {
   std::string clickedButton;
   std::string clickedBox;
+  std::string lastEventKey;
+  std::string lastEventClick;
+  std::string lastEventResize;
+  std::string lastEventBox;
+  std::string lastEventGif;
+  std::string lastKey;
 };
 
 // The text cursor of Write, in pixels of the current surface.
@@ -94,6 +106,9 @@ class Interpreter {
   TextCursor& Cursor() { return cursor_; }
   Geometry& Coordinates() { return geometry_; }
   Mailboxes& Mail() { return mailboxes_; }
+  WindowTable& Windows() { return windows_; }
+  InputState& Input() { return input_; }
+  ObjectTable& Objects() { return objects_; }
   const std::string& ProgramText() const { return programText_; }
 
   // Prepares `codes` into the Program Text, links and scans it; returns the
@@ -115,8 +130,6 @@ class Interpreter {
   // Work to do when the main window closes (stopping timers, closing files).
   void AddShutdownHook(std::function<void()> hook) { shutdownHooks_.push_back(std::move(hook)); }
 
-  int& FrameDepthCounter() { return frameDepth_; }
-
  private:
   Desktop& desktop_;
   Trace& trace_;
@@ -126,13 +139,15 @@ class Interpreter {
   TextCursor cursor_;
   Geometry geometry_;
   Mailboxes mailboxes_;
+  WindowTable windows_;
+  InputState input_;
+  ObjectTable objects_;
   VariableStore variables_;
   Dispatcher dispatcher_;
   Procedures procedures_;
   std::string programText_;
   std::int32_t tickCount_ = 0;
   bool activated_ = false;
-  int frameDepth_ = 0;
   DatabaseBlockReaderFunction databaseBlockReader_;
   SqlAssignmentFunction sqlAssignment_;
   std::vector<std::function<void()>> shutdownHooks_;

@@ -1,8 +1,8 @@
 #include "core/regional.h"
 
-#include <clocale>
 #include <cstdlib>
-#include <string>
+
+#include "core/regional_locale.h"
 
 namespace tamrix {
 namespace {
@@ -12,37 +12,65 @@ Regional& Settings() {
   return settings;
 }
 
-std::string LocaleName() {
-  for (const char* variable : {"LC_ALL", "LC_NUMERIC", "LANG"}) {
+// The locale of one category, as the C library would choose it.
+std::string LocaleName(const char* categoryVariable) {
+  for (const char* variable : {"LC_ALL", categoryVariable, "LANG"}) {
     const char* value = std::getenv(variable);
     if (value != nullptr && *value != '\0') return value;
   }
   return "C";
 }
 
+bool IsPointLocale(const std::string& name) {
+  return name == "C" || name == "POSIX" || name.rfind("C.", 0) == 0;
+}
+
+void Apply(Regional& settings, LocaleCategory category, const std::string& name) {
+  if (!IsPointLocale(name)) ApplyLocaleCategory(settings, category, name);
+}
+
 }  // namespace
 
 Regional Regional::FromEnvironment() {
   Regional settings;
-  const std::string name = LocaleName();
-  if (name == "C" || name == "POSIX" || name.rfind("C.", 0) == 0) return settings;
-  // Ask the C library for the locale's numeric conventions, then put the
-  // process back to the "C" numeric locale that the rest of the code assumes.
-  const std::string previous = std::setlocale(LC_NUMERIC, nullptr);
-  if (std::setlocale(LC_NUMERIC, name.c_str()) != nullptr) {
-    const std::lconv* conventions = std::localeconv();
-    if (conventions->decimal_point != nullptr && conventions->decimal_point[0] != '\0') {
-      settings.decimalSign = conventions->decimal_point[0];
-    }
-    if (conventions->thousands_sep != nullptr && conventions->thousands_sep[0] != '\0' &&
-        static_cast<unsigned char>(conventions->thousands_sep[0]) < 0x80) {
-      settings.groupingSign = conventions->thousands_sep[0];
-    } else {
-      settings.groupingSign = settings.decimalSign == ',' ? '.' : ',';
+  Apply(settings, LocaleCategory::Numeric, LocaleName("LC_NUMERIC"));
+  Apply(settings, LocaleCategory::Time, LocaleName("LC_TIME"));
+  Apply(settings, LocaleCategory::Monetary, LocaleName("LC_MONETARY"));
+  return settings;
+}
+
+Regional Regional::ForLocale(const std::string& name) {
+  Regional settings;
+  for (auto category : {LocaleCategory::Numeric, LocaleCategory::Time, LocaleCategory::Monetary}) {
+    Apply(settings, category, name);
+  }
+  return settings;
+}
+
+DateOrder Regional::ShortDateOrder() const {
+  // The first unescaped d, m and y letters, outside quoted text.
+  std::size_t day = std::string::npos;
+  std::size_t month = std::string::npos;
+  std::size_t year = std::string::npos;
+  bool quoted = false;
+  for (std::size_t i = 0; i < shortDate.size(); ++i) {
+    const char c = shortDate[i];
+    if (c == '"') {
+      quoted = !quoted;
+    } else if (quoted) {
+      continue;
+    } else if (c == '\\') {
+      ++i;
+    } else if ((c == 'd' || c == 'D') && day == std::string::npos) {
+      day = i;
+    } else if ((c == 'm' || c == 'M') && month == std::string::npos) {
+      month = i;
+    } else if ((c == 'y' || c == 'Y') && year == std::string::npos) {
+      year = i;
     }
   }
-  std::setlocale(LC_NUMERIC, previous.c_str());
-  return settings;
+  if (year < day && year < month) return DateOrder::YearMonthDay;
+  return month < day ? DateOrder::MonthDayYear : DateOrder::DayMonthYear;
 }
 
 const Regional& Regional::Current() { return Settings(); }

@@ -7,6 +7,10 @@
 
 namespace tamrix {
 
+void CheckTextSize(std::size_t bytes) {
+  if (bytes > kMaxTextBytes) Throw(kOutOfMemory);
+}
+
 std::string TextOf(const Value& v) {
   if (const auto* text = std::get_if<std::string>(&v)) return *text;
   if (const auto* integer = std::get_if<std::int32_t>(&v)) return std::to_string(*integer);
@@ -42,7 +46,10 @@ Value Combine(const Value& a, const Value& b, int sign) {
 }  // namespace
 
 Value AddValues(const Value& a, const Value& b) {
-  if (IsText(a) && IsText(b)) return std::get<std::string>(a) + std::get<std::string>(b);
+  if (IsText(a) && IsText(b)) {
+    CheckTextSize(std::get<std::string>(a).size() + std::get<std::string>(b).size());
+    return std::get<std::string>(a) + std::get<std::string>(b);
+  }
   return Combine(a, b, 1);
 }
 

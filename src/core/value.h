@@ -2,6 +2,7 @@
 // and the variable store hand them around.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <variant>
@@ -11,6 +12,12 @@ namespace tamrix {
 using Value = std::variant<std::string, std::int32_t, double>;
 
 inline bool IsText(const Value& v) { return std::holds_alternative<std::string>(v); }
+
+// The longest text a program may build; beyond it the run ends with the
+// run-time's memory fault rather than exhausting the machine.
+inline constexpr std::size_t kMaxTextBytes = std::size_t{512} * 1024 * 1024;
+// Faults with "Out of memory" when a text grows past the limit.
+void CheckTextSize(std::size_t bytes);
 
 // The ordinary text form: integers in decimal, floats with up to 15
 // significant digits and the regional decimal sign.

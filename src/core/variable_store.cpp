@@ -181,6 +181,9 @@ void VariableStore::SetVariable(std::string_view name, const Value& value, bool 
 
 void VariableStore::AddRecord(VarType type, std::string_view name, int size) {
   Table& table = tables_[Index(type)];
+  // A table larger than this ends the run with the memory fault.
+  constexpr long long kMaxSlots = 1LL << 24;
+  if (static_cast<long long>(table.slotsInUse) + size > kMaxSlots) Throw(kOutOfMemory);
   Record record{RecordName(name), table.slotsInUse, size};
   table.index.emplace(record.name, table.records.size());
   table.records.push_back(std::move(record));

@@ -19,6 +19,7 @@ AutomationHooks ReadAutomationHooks() {
   hooks.answers = Variable("TAMRIX_ANSWERS");
   hooks.exitAfterRun = Variable("TAMRIX_EXIT") == "1";
   hooks.snapshotPath = Variable("TAMRIX_SNAPSHOT").value_or("");
+  hooks.inputPath = Variable("TAMRIX_INPUT").value_or("");
   return hooks;
 }
 

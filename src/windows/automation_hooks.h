@@ -1,5 +1,6 @@
 // The environment variables that let a program run unattended, read once at
-// start: TAMRIX_TRACE, TAMRIX_ANSWERS, TAMRIX_EXIT and TAMRIX_SNAPSHOT.
+// start: TAMRIX_TRACE, TAMRIX_ANSWERS, TAMRIX_EXIT, TAMRIX_SNAPSHOT and
+// TAMRIX_INPUT.
 #pragma once
 
 #include <memory>
@@ -15,6 +16,7 @@ struct AutomationHooks {
   std::optional<std::string> answers;  // set, even empty: no box is shown
   bool exitAfterRun = false;           // only the value "1" turns it on
   std::string snapshotPath;            // empty: no snapshot
+  std::string inputPath;               // empty: no replayed input
 };
 
 AutomationHooks ReadAutomationHooks();

@@ -4,25 +4,11 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QPainter>
 #include <QPixmap>
 #include <utility>
 
-#include "windows/primary_screen.h"
-#include "windows/window_metrics.h"
-
 namespace tamrix {
 namespace {
-
-constexpr double kDefaultFontPoints = 10;
-
-QFont DefaultFont() {
-  QFont font(QStringLiteral("Courier New"));
-  font.setStyleHint(QFont::TypeWriter);
-  font.setHintingPreference(QFont::PreferFullHinting);
-  font.setPixelSize(PointsToPixels(kDefaultFontPoints));
-  return font;
-}
 
 bool IsClosingKey(const QEvent* event) {
   if (event->type() != QEvent::KeyPress) return false;
@@ -32,22 +18,9 @@ bool IsClosingKey(const QEvent* event) {
 
 }  // namespace
 
-Janela::Janela() : surface_(*this, "PARENT") {
-  setWindowTitle(QStringLiteral("Tamrix - Window"));
-  setAttribute(Qt::WA_OpaquePaintEvent);
-  setFocusPolicy(Qt::StrongFocus);
-
-  const QPalette colours = QApplication::palette();
-  surface_.SetBackColor(colours.color(QPalette::Button));
-  surface_.SetForeColor(colours.color(QPalette::ButtonText));
-  surface_.SetFont(DefaultFont());
-  setFont(surface_.Font());
-
-  const PixelRect client =
-      CentredClientRect(kMainWindowWidthTwips, kMainWindowHeightTwips, PrimaryScreenSize());
-  setGeometry(client.left, client.top, client.width, client.height);
-  surface_.Cover(client.width, client.height);
-
+Janela::Janela() : RunTimeWidget(WindowClass::Janela, "PARENT") {
+  // Moves count without a button held, too.
+  setMouseTracking(true);
   qApp->installEventFilter(this);
 }
 
@@ -63,23 +36,10 @@ void Janela::CloseAsUser() {
   if (closingHandler_) closingHandler_();
 }
 
-void Janela::ShowNormal() {
-  showNormal();
-  raise();
-  activateWindow();
-}
-
 bool Janela::SaveSnapshot(const QString& path) { return grab().save(path, "PNG"); }
 
-void Janela::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
-  painter.fillRect(rect(), surface_.BackColor());
-  painter.drawImage(0, 0, surface_.Image());
-}
-
-void Janela::resizeEvent(QResizeEvent* event) {
-  surface_.Cover(width(), height());
-  QWidget::resizeEvent(event);
+void Janela::OnMouse(MouseAction action, int buttons, int x, int y) {
+  Deliver([=](Interpreter& in) { OnMainWindowMouse(in, action, buttons, x, y); });
 }
 
 void Janela::closeEvent(QCloseEvent* event) {

@@ -15,8 +15,9 @@ namespace tamrix {
 
 ProgramSession::ProgramSession(Trace& trace, ScriptedAnswers& answers, AutomationHooks hooks)
     : hooks_(std::move(hooks)), desktop_(janela_), interpreter_(desktop_, trace, answers) {
-  RegisterCoreCommandFamilies(interpreter_.Commands());
+  RegisterCoreCommandFamilies(interpreter_);
   janela_.SetClosingHandler([this] { Close(); });
+  desktop_.Relay().Attach(interpreter_, [this](const std::function<void()>& work) { Guarded(work); });
   desktop_.SetLanguageTickHandler([this] { Guarded([this] { interpreter_.OnLanguageTimerTick(); }); });
 }
 
@@ -35,7 +36,11 @@ void ProgramSession::Guarded(const std::function<void()>& work) {
 
 void ProgramSession::Start(LaunchInfo launch) {
   interpreter_.SetLaunch(std::move(launch));
+  if (!hooks_.inputPath.empty()) {
+    replay_ = std::make_unique<InputReplay>(desktop_, ReadInputFile(hooks_.inputPath));
+  }
   QTimer::singleShot(0, &janela_, [this] {
+    if (replay_) replay_->Start();
     Guarded([this] { interpreter_.RunFirstActivation(); });
     if (hooks_.exitAfterRun) janela_.CloseAsUser();
   });

@@ -4,9 +4,11 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include "core/interpreter.h"
 #include "windows/automation_hooks.h"
+#include "windows/input_replay.h"
 #include "windows/janela.h"
 #include "windows/qt_desktop.h"
 
@@ -28,8 +30,9 @@ class ProgramSession {
   void Guarded(const std::function<void()>& work);
 
   // Hands the program to the main window. The first activation runs as soon
-  // as the event loop starts; when it ends and TAMRIX_EXIT is on, the main
-  // window is closed as if the user closed it.
+  // as the event loop starts, and the replayed input of TAMRIX_INPUT with
+  // it; when it ends and TAMRIX_EXIT is on, the main window is closed as if
+  // the user closed it.
   void Start(LaunchInfo launch);
 
   // The about window of a run-time without a program, as a box of the
@@ -45,6 +48,7 @@ class ProgramSession {
   Janela janela_;
   QtDesktop desktop_;
   Interpreter interpreter_;
+  std::unique_ptr<InputReplay> replay_;
 };
 
 }  // namespace tamrix

@@ -2,9 +2,9 @@
 // everything drawn in them in pixels. Qt-free so that it can be tested alone.
 #pragma once
 
-namespace tamrix {
+#include "core/run_time_window.h"
 
-inline constexpr int kTwipsPerPixel = 15;
+namespace tamrix {
 
 // An outer size includes the frame of a sizable window with the classic
 // desktop metrics: a 4 pixel sizing border on every side and a 19 pixel title

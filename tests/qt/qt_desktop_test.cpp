@@ -139,7 +139,8 @@ TEST_F(QtDesktopTest, TimersRunWhileABoxIsUp) {
 }
 
 TEST_F(QtDesktopTest, OutputAndTheMainWindowAreJanelas) {
-  EXPECT_EQ(&desktop.CurrentSurface(), &janela.Surface());
+  EXPECT_EQ(&desktop.MainWindow(), static_cast<RunTimeWindow*>(&janela));
+  EXPECT_EQ(&desktop.CurrentWindowWidget(), &janela);
   desktop.SetMainCaption("Tamrix - HELLO.ZRC");
   EXPECT_EQ(janela.windowTitle(), QStringLiteral("Tamrix - HELLO.ZRC"));
   desktop.ShowMainWindow();

@@ -13,26 +13,14 @@
 #include "core/automation.h"
 #include "core/desktop.h"
 #include "core/interpreter.h"
+#include "headless_controls.h"
+#include "headless_windows.h"
 
 namespace tamrix::testing {
 
 struct ProcessEnded : std::runtime_error {
   explicit ProcessEnded(int s) : std::runtime_error("process ended"), status(s) {}
   int status;
-};
-
-class HeadlessSurface : public Surface {
- public:
-  std::string Name() const override { return "PARENT"; }
-  void PrintText(int, int, const std::string& text) override { printed.push_back(text); }
-  void Clear() override { ++clears; }
-  int ClientWidth() const override { return 632; }
-  int ClientHeight() const override { return 373; }
-  void SetCaption(const std::string& text) override { caption = text; }
-
-  std::vector<std::string> printed;
-  std::string caption;
-  int clears = 0;
 };
 
 class HeadlessDesktop : public Desktop {
@@ -43,16 +31,45 @@ class HeadlessDesktop : public Desktop {
     if (onPump) onPump();
   }
   void Sleep(int milliseconds) override { slept += milliseconds; }
-  Surface& CurrentSurface() override { return surface; }
   void SetMainCaption(const std::string& text) override { mainCaption = text; }
-  void ShowMainWindow() override { shown = true; }
+  void ShowMainWindow() override {
+    shown = true;
+    mainWindow.Show();
+  }
   void CloseMainWindow() override { closed = true; }
   int ScreenWidth() const override { return 1024; }
   int ScreenHeight() const override { return 768; }
   void SetLanguageTimer(bool running) override { timerRunning = running; }
+  ObjectControls& Controls() override { return controls; }
+  RunTimeWindow& MainWindow() override { return mainWindow; }
+  RunTimeWindow& CreateWindow(WindowClass kind, const std::string& name) override {
+    windows.push_back(std::make_unique<HeadlessWindow>(kind, name));
+    windows.back()->modalLoop = [this] { timers.FireRunning(); };
+    return *windows.back();
+  }
+  void DestroyWindow(RunTimeWindow& window) override {
+    window.Hide();
+    destroyed.push_back(&window);
+  }
+  std::unique_ptr<DesktopTimer> CreateTimer(TimerTick tick) override { return timers.Create(std::move(tick)); }
+  PixelPoint CursorPosition() const override { return cursor; }
+  void ShowCursor(bool show) override { cursorCount += show ? 1 : -1; }
+  TextAnswer AskText(const std::string& title, const std::string& prompt, const std::string& text) override {
+    asked.push_back(title + "|" + prompt + "|" + text);
+    return textAnswer;
+  }
   [[noreturn]] void EndProcess(int status) override { throw ProcessEnded(status); }
 
-  HeadlessSurface surface;
+  HeadlessWindow mainWindow{WindowClass::Janela, "PARENT"};
+  HeadlessSurface& surface = mainWindow.surface;
+  std::vector<std::unique_ptr<HeadlessWindow>> windows;  // made by NewWindow SET
+  std::vector<RunTimeWindow*> destroyed;
+  HeadlessTimers timers;
+  PixelPoint cursor;
+  int cursorCount = 0;
+  std::vector<std::string> asked;  // "title|prompt|text" of each text dialog
+  TextAnswer textAnswer;
+  HeadlessControls controls;
   std::function<void()> onPump;
   std::string mainCaption;
   int pumps = 0;
@@ -70,7 +87,7 @@ class ProgramRun {
       : trace([this](const std::string& line) { lines.push_back(line); }),
         scripted(answers),
         interpreter(desktop, trace, scripted) {
-    RegisterCoreCommandFamilies(interpreter.Commands());
+    RegisterCoreCommandFamilies(interpreter);
   }
 
   // Runs the units (unit 0 first) as the first activation does; returns
@@ -79,7 +96,7 @@ class ProgramRun {
     LaunchInfo launch;
     for (std::size_t i = 0; i < units.size() && i < launch.codes.size(); ++i) launch.codes[i] = units[i];
     launch.programName = "TEST.ZRC";
-    launch.programPath = "/tmp/";
+    launch.programPath = programPath;
     interpreter.SetLaunch(launch);
     try {
       interpreter.RunFirstActivation();
@@ -108,6 +125,7 @@ class ProgramRun {
   }
 
   std::vector<std::string> lines;
+  std::string programPath = "/tmp/";  // the program's folder, ending in "/"
   HeadlessDesktop desktop;
   Trace trace;
   ScriptedAnswers scripted;

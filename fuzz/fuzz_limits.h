@@ -1,0 +1,37 @@
+// A program run for fuzzing: a statement budget ends runaway loops, and a
+// desktop that gives up after many pumps ends the waits that never return.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "core/fault.h"
+#include "headless_desktop.h"
+
+namespace tamrix::fuzzing {
+
+struct WaitedTooLong {};
+
+class LimitedRun : public testing::ProgramRun {
+ public:
+  static constexpr long kStatements = 20000;
+  static constexpr int kPumps = 2000;
+
+  LimitedRun() {
+    interpreter.State().statementBudget = kStatements;
+    desktop.onPump = [this] {
+      if (desktop.pumps > kPumps) throw WaitedTooLong{};
+    };
+  }
+
+  void Guarded(const std::function<void()>& work) {
+    try {
+      work();
+    } catch (const WaitedTooLong&) {
+    } catch (const RuntimeFault&) {
+    } catch (const testing::ProcessEnded&) {
+    }
+  }
+};
+
+}  // namespace tamrix::fuzzing

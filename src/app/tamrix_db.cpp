@@ -1,0 +1,85 @@
+// tamrix-db: shows and checks a record file (".Zrf") with the run-time's own
+// reading of the format.
+//
+//   tamrix-db dump FILE    the header, the fields and every record as text
+//   tamrix-db check FILE   exit status 0 when the file is sound, 1 if not
+#include <cstdio>
+#include <exception>
+#include <string>
+
+#include "core/codepage.h"
+#include "core/fault.h"
+#include "data/data_file.h"
+#include "data/record_file.h"
+#include "data/record_file_check.h"
+#include "data/record_layout.h"
+
+namespace {
+
+using namespace tamrix;
+
+// Texts of the file are Windows-1252; the terminal takes UTF-8.
+void Print(const std::string& text) { std::printf("%s\n", Cp1252ToUtf8(text).c_str()); }
+
+int Dump(const DataFile& file) {
+  const StoredDatabase db = ReadStoredDatabase(file);
+  Print("lock byte: " + std::string(1, db.lock));
+  Print("records: " + std::to_string(db.count));
+  Print("name: " + db.name);
+  Print("record length: " + std::to_string(db.recordLength));
+  Print("created: " + db.created);
+  Print("last prepared: " + db.prepared);
+  Print("password: \"" + db.password + "\"");
+  Print("fields:");
+  for (const auto& field : db.fields) {
+    Print("  " + field.name + " " + field.type + " width " + std::to_string(field.width) + " at " +
+          std::to_string(field.start));
+  }
+  for (std::int32_t r = 0; r < db.count; ++r) {
+    const std::string record = ReadRecordAt(file, db.recordLength, r);
+    std::string line = "record " + std::to_string(r) + ":";
+    bool deleted = false;
+    try {
+      deleted = IsDeletedRecord(record);
+    } catch (const RuntimeFault&) {
+      // shown field by field below
+    }
+    if (deleted) {
+      line += " deleted";
+    } else {
+      for (const auto& field : db.fields) line += " " + field.name + "=" + DescribeValue(field, record).text;
+    }
+    Print(line);
+  }
+  return 0;
+}
+
+int Check(const DataFile& file, const std::string& name) {
+  const CheckResult result = CheckRecordFile(file);
+  for (const auto& note : result.notes) Print(name + ": note: " + note);
+  for (const auto& problem : result.problems) Print(name + ": " + problem);
+  if (!result.problems.empty()) return 1;
+  const std::int32_t count = ReadRecordCount(file);
+  Print(name + ": ok, " + std::to_string(count) + " records, " + std::to_string(result.deleted) + " deleted");
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 3 || (std::string(argv[1]) != "dump" && std::string(argv[1]) != "check")) {
+    std::fprintf(stderr, "usage: tamrix-db dump FILE\n       tamrix-db check FILE\n");
+    return 2;
+  }
+  const std::string name = argv[2];
+  try {
+    const auto file = DataFile::Open(Utf8ToCp1252Lossy(name), FileMode::Input);
+    return std::string(argv[1]) == "dump" ? Dump(*file) : Check(*file, Utf8ToCp1252Lossy(name));
+  } catch (const RuntimeFault& fault) {
+    std::printf("%s: %s\n", name.c_str(), fault.Description().c_str());
+    return 1;
+  } catch (const std::exception& error) {
+    std::printf("%s: %s\n", name.c_str(), error.what());
+    return 1;
+  }
+}

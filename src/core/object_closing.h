@@ -1,0 +1,21 @@
+// The two walks that empty the Object Table when windows close.
+#pragma once
+
+#include <string>
+
+namespace tamrix {
+
+class Interpreter;
+
+// The main window closes: every family from its last entry down to entry 1
+// is cleared, its value variables removed and its control unloaded; entry 0
+// is cleared and hidden.
+void ShutdownObjects(Interpreter& interpreter);
+
+// A dynamic window closes: every entry, down to entry 0, whose owner is the
+// window's upper-case `tag` is cleared and its control unloaded (entry 0
+// hidden). The numeric kinds' variables are removed under the wrong name
+// ".Valor", so that their ".Value" stays declared.
+void CloseWindowObjects(Interpreter& interpreter, const std::string& tag);
+
+}  // namespace tamrix

@@ -1,0 +1,112 @@
+// The controls behind the language's objects, as the core sees them. The
+// window layer implements them with real widgets; tests use a headless
+// double. Positions and sizes are pixels of the owning window; colours are
+// 32-bit values with red in the low byte, system colours (0x80000000 and an
+// index) included; texts are Windows-1252.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace tamrix {
+
+// The object kinds, in the order in which the main window's closing walks
+// them.
+enum class ObjectKind {
+  AnimatedGif,
+  Button,
+  Text,
+  Currency,
+  Check,
+  Label,
+  Link,
+  Radio,
+  Combo,
+  Frame,
+  Mask,
+  Calendar,
+  ScrollBar,
+  Box,
+  Picture,
+  Image,
+  Sound,
+};
+inline constexpr int kObjectKindCount = 17;
+
+// A picture given to a control: nothing, a built-in picture of the `Pic`
+// catalogue, or a file.
+struct PictureSource {
+  int builtIn = -1;  // catalogue number, -1 for none
+  std::string path;  // a file, as the program wrote it
+  bool Empty() const { return builtIn < 0 && path.empty(); }
+};
+
+// What every control offers to the object frame.
+class ObjectControl {
+ public:
+  virtual ~ObjectControl() = default;
+
+  virtual void SetVisible(bool visible) = 0;
+  virtual void SetEnabled(bool enabled) = 0;
+  virtual void SetTop(int pixels) = 0;
+  virtual void SetLeft(int pixels) = 0;
+  virtual void SetHeight(int pixels) = 0;
+  virtual void SetWidth(int pixels) = 0;
+  virtual void SetTabIndex(int index) = 0;
+  virtual void SetToolTip(const std::string& text) = 0;
+  // Fails with error 5 when the control can't take the focus.
+  virtual void TakeFocus() = 0;
+  virtual void SetBackColor(std::int32_t colour) = 0;
+  virtual void SetForeColor(std::int32_t colour) = 0;
+  virtual void SetFontName(const std::string& name) = 0;
+  virtual void SetFontSize(double points) = 0;
+  virtual void SetBold(bool bold) = 0;
+  virtual void SetItalic(bool italic) = 0;
+  // Hands a control that was loaded on the main window to another window.
+  virtual void MoveToWindow(const std::string& windowName) = 0;
+  // Places the control inside an Image object's window; its position now
+  // counts from the image's corner.
+  virtual void PlaceInto(ObjectControl& image) = 0;
+};
+
+// The five looks of a button in style 1.
+enum class ButtonState { Up, High, Focus, Down, Disabled };
+
+class ButtonControl : public virtual ObjectControl {
+ public:
+  virtual void SetCaption(const std::string& caption) = 0;
+  // Fails with the run-time's error when a file can't be loaded.
+  virtual void SetPicture(const PictureSource& picture) = 0;
+  // 0 draws the button with lines, 1 shows the state pictures.
+  virtual void SetStyle(std::int16_t style) = 0;
+  // Copies the state pictures and colours of the built-in skin `BtnTipo(n)`.
+  virtual void ApplySkin(int n) = 0;
+};
+
+// The skins `BtnTipo(0)` to `BtnTipo(8)`; `ButtonStyle` changes skin 0.
+// Buttons made before a change keep what they had.
+class ButtonSkinStore {
+ public:
+  static constexpr int kSkinCount = 9;
+
+  virtual ~ButtonSkinStore() = default;
+  // Fails with the run-time's error when the file can't be loaded.
+  virtual void SetPicture(ButtonState state, const std::string& path) = 0;
+  virtual void SetBackColor(std::int32_t colour) = 0;
+  virtual void SetForeColor(std::int32_t colour) = 0;
+};
+
+// Loads and unloads the instances of the kinds' templates.
+class ObjectControls {
+ public:
+  virtual ~ObjectControls() = default;
+  // Instance `index` of the kind's template on the named window (upper-case
+  // name, "PARENT" for the main window), hidden. Index 0 is that window's own
+  // template, made on first use.
+  virtual ObjectControl& Load(ObjectKind kind, int index, const std::string& windowName) = 0;
+  // Unloads an instance above index 0; the reference is dead afterwards.
+  virtual void Unload(ObjectControl& control) = 0;
+  virtual ButtonSkinStore& ButtonSkins() = 0;
+};
+
+}  // namespace tamrix

@@ -1,0 +1,132 @@
+#include "data/record_file_check.h"
+
+#include <functional>
+
+#include "core/fault.h"
+#include "core/numbers.h"
+#include "data/record_file.h"
+#include "data/scrambled_value.h"
+
+namespace tamrix {
+namespace {
+
+// Runs `read`; a fault becomes one that names `what`.
+template <typename T>
+T Reading(const std::string& what, const std::function<T()>& read) {
+  try {
+    return read();
+  } catch (const RuntimeFault& fault) {
+    throw RuntimeFault(fault.Number(), what + ": " + fault.Description());
+  }
+}
+
+std::string ValueFault(const RuntimeFault& fault) {
+  switch (fault.Number()) {
+    case kSubscriptOutOfRange: return "key byte outside the key table";
+    case kInvalidCall: return "value runs past its area";
+    default: return fault.Description();
+  }
+}
+
+std::size_t ExpectedValueLength(const std::string& type) {
+  if (type == "Integer" || type == "AutoInc") return 4;
+  if (type == "Decimal") return 8;
+  return std::string::npos;
+}
+
+}  // namespace
+
+StoredDatabase ReadStoredDatabase(const DataFile& file) {
+  std::string header = file.ReadAt(0, zrf::kHeaderSize);
+  if (header.size() < zrf::kHeaderSize) {
+    throw RuntimeFault(kInputPastEndOfFile, "header: the file is shorter than the header's 20,000 bytes");
+  }
+  const auto area = [&](const char* what, HeaderArea where) {
+    return Reading<std::string>(what, [&] { return AreaText(header, where); });
+  };
+  StoredDatabase db;
+  db.lock = header[zrf::kLock.offset];
+  db.count = Reading<std::int32_t>("record count", [&] { return CountOfHead(header.substr(0, zrf::kHeadSize)); });
+  db.name = area("name", zrf::kName);
+  db.recordLength = Reading<std::int32_t>(
+      "record length", [&] { return ToInt32(Val(StrippedAreaText(header, zrf::kRecordLength))); });
+  db.created = area("creation time", zrf::kCreated);
+  db.prepared = area("last preparation", zrf::kPrepared);
+  db.password = Reading<std::string>("password", [&] { return StrippedAreaText(header, zrf::kPassword); });
+  db.fields = Reading<std::vector<RecordField>>("field list", [&] { return ReadFieldList(header); });
+  return db;
+}
+
+FieldReading DescribeValue(const RecordField& field, std::string_view record) {
+  if (field.width <= 0) return {true, "(no value: the type is unknown)"};
+  try {
+    const std::string value = UnscrambleValue(FieldBytes(record, field));
+    const std::size_t expected = ExpectedValueLength(field.type);
+    if (expected != std::string::npos && value.size() != expected) {
+      return {false, "a " + field.type + " value of " + std::to_string(value.size()) + " bytes"};
+    }
+    if (field.type == "Integer" || field.type == "AutoInc") return {true, std::to_string(IntegerFromBytes(value))};
+    if (field.type == "Decimal") return {true, NumberText(DecimalFromBytes(value))};
+    return {true, "\"" + value + "\""};
+  } catch (const RuntimeFault& fault) {
+    return {false, ValueFault(fault)};
+  }
+}
+
+CheckResult CheckRecordFile(const DataFile& file) {
+  CheckResult result;
+  StoredDatabase db;
+  try {
+    db = ReadStoredDatabase(file);
+  } catch (const RuntimeFault& fault) {
+    result.problems.push_back(fault.Description());
+    return result;
+  }
+  if (db.lock != zrf::kFree) {
+    result.problems.push_back("the lock byte is \"" + std::string(1, db.lock) +
+                              "\", not \"0\": every record command waits for it");
+  }
+  std::int32_t widths = 0;
+  for (const auto& field : db.fields) widths += field.width;
+  if (widths != db.recordLength) {
+    result.problems.push_back("the record length is " + std::to_string(db.recordLength) +
+                              " but the stored fields take " + std::to_string(widths));
+    return result;
+  }
+  if (db.count < 0) result.problems.push_back("the record count is negative");
+  const auto size = static_cast<std::int64_t>(file.Size());
+  const std::int64_t length = db.recordLength;
+  const std::int64_t expected = std::max<std::int64_t>(zrf::kHeaderSize, static_cast<std::int64_t>(zrf::RecordOffset(length, db.count)));
+  if (size < expected) {
+    result.problems.push_back("the count of " + std::to_string(db.count) + " records needs " + std::to_string(expected) +
+                              " bytes, the file has " + std::to_string(size));
+  } else if (size > expected) {
+    if (length > 0 && (size - expected) % length == 0) {
+      result.notes.push_back(std::to_string((size - expected) / length) +
+                             " record(s) stand behind the count, written at the count's position");
+    } else {
+      result.problems.push_back(std::to_string(size - expected) + " bytes behind the last record");
+    }
+  }
+  if (!result.problems.empty() || db.fields.empty()) return result;
+  for (std::int32_t r = 0; r < db.count; ++r) {
+    const std::string record = ReadRecordAt(file, length, r);
+    try {
+      if (IsDeletedRecord(record)) {
+        ++result.deleted;
+        continue;
+      }
+    } catch (const RuntimeFault&) {
+      // The first field is checked with the others below.
+    }
+    for (const auto& field : db.fields) {
+      const FieldReading value = DescribeValue(field, record);
+      if (!value.readable) {
+        result.problems.push_back("record " + std::to_string(r) + ", field " + field.name + ": " + value.text);
+      }
+    }
+  }
+  return result;
+}
+
+}  // namespace tamrix
