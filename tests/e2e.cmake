@@ -20,3 +20,9 @@ foreach(expected IN LISTS TAMRIX_E2E_CASES)
   set_tests_properties(e2e.${case_name} PROPERTIES TIMEOUT 60
     ENVIRONMENT "TAMRIX_DB=$<TARGET_FILE:tamrix-db>")
 endforeach()
+
+# Two programs add records to one record file side by side.
+add_test(NAME e2e.concurrent_records
+  COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/concurrency/two_writers.sh
+    $<TARGET_FILE:tamrix-pack> $<TARGET_FILE:tamrix-db> ${CMAKE_CURRENT_BINARY_DIR}/e2e/concurrent_records)
+set_tests_properties(e2e.concurrent_records PROPERTIES TIMEOUT 120)

@@ -15,6 +15,8 @@
 #   <name>.env          extra VARIABLE=value lines for the run (LC_ALL=...)
 #   <name>.files/       copied beside the program before it runs
 #   <name>.input        replayed user input (TAMRIX_INPUT)
+#   <name>.screen       (empty) boxes and dialogs show on screen, with
+#                       TAMRIX_ANSWERS unset, for the replayed input to answer
 #   <name>.pixels       pixels that the snapshot of the main window must show,
 #                       checked by <snapshot-pixels> (see tools/snapshot_pixels.cpp)
 #   <name>.post         a bash script run in <work-folder> after the trace
@@ -54,6 +56,8 @@ fi
 
 answers=""
 [[ -f "$case_path.answers" ]] && answers=$(<"$case_path.answers")
+answers_env=(TAMRIX_ANSWERS="$answers")
+[[ -f "$case_path.screen" ]] && answers_env=(-u TAMRIX_ANSWERS)
 args=()
 [[ -f "$case_path.args" ]] && read -ra args <"$case_path.args"
 extra_env=()
@@ -69,9 +73,9 @@ fi
 status=0
 (
   cd "$work"
-  env -u TAMRIX_SNAPSHOT -u TAMRIX_INPUT -u TAMRIX_PRINTER \
+  env -u TAMRIX_SNAPSHOT -u TAMRIX_INPUT -u TAMRIX_PRINTER "${answers_env[@]}" \
     QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR="$work/.runtime" LC_ALL=C.UTF-8 \
-    TAMRIX_EXIT=1 TAMRIX_TRACE="$trace" TAMRIX_ANSWERS="$answers" \
+    TAMRIX_EXIT=1 TAMRIX_TRACE="$trace" \
     "${extra_env[@]}" \
     timeout "$timeout_seconds" "$program" "${args[@]}"
 ) || status=$?

@@ -1,6 +1,7 @@
 // tamrix: the run-time stub. A copy of it with a program appended runs that
 // program; the stub alone shows its about window.
 #include <QApplication>
+#include <clocale>
 #include <string>
 
 #include "image/program_image.h"
@@ -15,6 +16,10 @@ int main(int argc, char* argv[]) {
   const std::string commandLine = CommandLineTail(argc, argv);
 
   QApplication application(argc, argv);
+  // Qt takes the C library's locale from the environment; the core reads
+  // and writes numbers by its own regional settings and needs the C
+  // library's number forms to stay those of the "C" locale.
+  std::setlocale(LC_NUMERIC, "C");
   // The process ends when the main window closes, never by itself.
   QApplication::setQuitOnLastWindowClosed(false);
 

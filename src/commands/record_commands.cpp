@@ -273,6 +273,7 @@ Value FindDB(CommandCall& call, DataState& state) {
       RunTimeMessage(in, "Error in command FindDB!\rMake sure you set the order of the database with the command OrderDB!");
       return 0;
     }
+    // The width of a key field that the database lacks is read at field -1.
     const int field = FindField(db, keyField);
     if (field < 0) Throw(kSubscriptOutOfRange);
     const auto width = static_cast<std::size_t>(std::max<std::int16_t>(db.fields[static_cast<std::size_t>(field)].width, 0));

@@ -17,7 +17,6 @@ namespace {
 
 constexpr std::size_t kWindowArguments = 51;
 constexpr int kMouseGeneralMilliseconds = 50;
-constexpr long kInvalidPicture = 481;
 
 // A keyword found at element `at`; its values stand from two further on.
 struct WindowSetting {
@@ -74,8 +73,7 @@ void MouseGeneral(WindowSetting& s) {
 
 // A missing file gives an empty icon, as loading an empty name does.
 void MouseIcon(WindowSetting& s) {
-  const std::string path = ResolvePath(s.Text(2), s.in.Launch().programPath);
-  if (!s.in.Windows().Current().SetMouseIcon(path)) throw RuntimeFault(kInvalidPicture, "Invalid picture");
+  s.in.Windows().Current().SetMouseIcon(ResolvePath(s.Text(2), s.in.Launch().programPath));
 }
 
 void Resolution(WindowSetting& s) { ApplyResolution(s.in, s.Main(), s.Number(2), s.Number(3)); }

@@ -1,6 +1,7 @@
 #include "core/evaluator.h"
 
 #include "core/calculate.h"
+#include "core/call_search_cache.h"
 #include "core/fault.h"
 #include "core/interpreter.h"
 #include "core/keywords.h"
@@ -11,12 +12,14 @@
 namespace tamrix {
 namespace {
 
+enum class Search { Found, NoCall, Unmatched };
+
 // The search shared by both finders: `names` in order, the first whose first
 // occurrence is followed by "(" or a blank. On a text whose brackets can't
-// be matched, the stop box and false.
+// be matched, the stop box.
 template <typename Names, typename OnFound>
-bool FindCall(Interpreter& interpreter, std::string_view text, const Names& names,
-              const std::string& errorWord, CallRecord& call, OnFound onFound) {
+Search FindCall(Interpreter& interpreter, std::string_view text, const Names& names,
+                const std::string& errorWord, CallRecord& call, OnFound onFound) {
   for (std::size_t n = 0; n < names.size(); ++n) {
     const std::string& name = names[n];
     if (name.empty()) continue;
@@ -37,14 +40,24 @@ bool FindCall(Interpreter& interpreter, std::string_view text, const Names& name
     }
     if (digit >= tagged.size() || q == std::string::npos || r == std::string::npos || digit == start) {
       interpreter.StopBox(errorWord + name + "\r\n\r\nMake sure you put the arguments in parentheses!");
-      return false;
+      return Search::Unmatched;
     }
     call.name = Trim(tagged.substr(start, digit - start - 1));
     call.arguments = tagged.substr(q + 1, r - q - 1);
     onFound(n);
-    return true;
+    return Search::Found;
   }
-  return false;
+  return Search::NoCall;
+}
+
+// FindCall through a cache of the texts known to hold no call.
+template <typename Names, typename OnFound>
+bool FindCallCached(Interpreter& interpreter, CallSearchCache& cache, std::string_view text,
+                    const Names& names, const std::string& errorWord, CallRecord& call, OnFound onFound) {
+  if (cache.KnownWithoutCall(text)) return false;
+  const Search result = FindCall(interpreter, text, names, errorWord, call, onFound);
+  if (result == Search::NoCall) cache.RememberWithoutCall(text);
+  return result == Search::Found;
 }
 
 // The text behind a rewritten call: it starts two characters behind the end
@@ -116,7 +129,8 @@ bool FindCommandCall(Interpreter& interpreter, std::string_view expr, CallRecord
   const std::string text = Trim(expr);
   if (StartsWith(text, "\"") && EndsWith(text, "\"")) return false;
   call = CallRecord();
-  return FindCall(interpreter, text, KeywordList(), "Error in command ", call, [](std::size_t) {});
+  return FindCallCached(interpreter, interpreter.CommandCallCache(), text, KeywordList(), "Error in command ",
+                        call, [](std::size_t) {});
 }
 
 bool FindFunctionCall(Interpreter& interpreter, std::string_view expr, CallRecord& call,
@@ -125,9 +139,9 @@ bool FindFunctionCall(Interpreter& interpreter, std::string_view expr, CallRecor
   if (StartsWith(expr, "\"")) return false;
   const std::string text = Trim(expr);
   call = CallRecord();
-  const Procedures& procs = interpreter.Procs();
-  return FindCall(interpreter, text, procs.FunctionNames(), "Error in function ", call,
-                  [&](std::size_t n) { returnType = procs.FunctionReturns()[n]; });
+  Procedures& procs = interpreter.Procs();
+  return FindCallCached(interpreter, procs.FunctionCallCache(), text, procs.FunctionNames(), "Error in function ",
+                        call, [&](std::size_t n) { returnType = procs.FunctionReturns()[n]; });
 }
 
 void ExecuteCommandCall(Interpreter& interpreter, std::string& expr, const CallRecord& call,

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/automation.h"
+#include "core/call_search_cache.h"
 #include "core/desktop.h"
 #include "core/dispatcher.h"
 #include "core/fault.h"
@@ -110,6 +111,8 @@ class Interpreter {
   InputState& Input() { return input_; }
   ObjectTable& Objects() { return objects_; }
   const std::string& ProgramText() const { return programText_; }
+  // Texts known to hold no keyword call; the keyword list never changes.
+  CallSearchCache& CommandCallCache() { return commandCallCache_; }
 
   // Prepares `codes` into the Program Text, links and scans it; returns the
   // block check's message, empty when the program may run. Used by the
@@ -146,6 +149,7 @@ class Interpreter {
   Dispatcher dispatcher_;
   Procedures procedures_;
   std::string programText_;
+  CallSearchCache commandCallCache_;
   std::int32_t tickCount_ = 0;
   bool activated_ = false;
   DatabaseBlockReaderFunction databaseBlockReader_;

@@ -75,6 +75,7 @@ void Procedures::ScanDeclarations(Interpreter& interpreter, const std::string& t
   subNames_.clear();
   timerNames_.clear();
   timerPeriods_.clear();
+  functionCallCache_.Clear();
   try {
     ScanFunctions(interpreter, text);
     ScanSubs(interpreter, text);

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/call_search_cache.h"
 #include "core/value.h"
 
 namespace tamrix {
@@ -31,6 +32,8 @@ class Procedures {
   std::vector<std::int16_t>& TimerPeriods() { return timerPeriods_; }
 
   std::int32_t& CallCounter() { return callCounter_; }
+  // Texts known to hold no call of a function of these tables.
+  CallSearchCache& FunctionCallCache() { return functionCallCache_; }
 
  private:
   void ScanFunctions(Interpreter& interpreter, const std::string& text);
@@ -44,6 +47,7 @@ class Procedures {
   std::vector<std::int16_t> timerPeriods_;
   bool hasTimers_ = false;
   std::int32_t callCounter_ = 0;
+  CallSearchCache functionCallCache_;
 };
 
 // Runs "Sub <name>" ... "EndSub" in a new frame.

@@ -38,7 +38,6 @@ struct TwipRect {
 
 // Flags each window keeps, false at creation.
 struct WindowFlags {
-  bool gradientOn = false;      // GrdAtivo: a resize repaints the gradient
   bool closing = false;         // WindowClosing: the window is being unloaded
   bool buttonHasFocus = false;  // ButtonHasFocus: Enter is left to the button
 };
@@ -61,11 +60,8 @@ class RunTimeWindow {
   // Shows the window modally; returns when it has closed.
   virtual void ShowModal() = 0;
   virtual void Hide() = 0;
-  virtual bool IsVisible() const = 0;
   virtual bool IsMaximized() const = 0;
   virtual void Restore() = 0;  // from maximised to normal
-  // Closes the window as its close box does.
-  virtual void Close() = 0;
 
   virtual TwipRect Outer() const = 0;
   virtual void SetOuter(const TwipRect& rect) = 0;
@@ -79,8 +75,9 @@ class RunTimeWindow {
   virtual void SetKeyPreview(bool on) = 0;
   virtual bool KeyPreview() const = 0;
 
-  // False when the file can't be read as a cursor.
-  virtual bool SetMouseIcon(const std::string& path) = 0;
+  // The mouse pointer over the window, from a picture file; an empty path,
+  // or a file that can't be read as a picture, gives the usual pointer.
+  virtual void SetMouseIcon(const std::string& path) = 0;
   // Colours are 32-bit with red in the low byte. A new back colour clears
   // the drawing to it.
   virtual void SetBackColor(std::int32_t colour) = 0;

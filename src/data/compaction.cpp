@@ -45,7 +45,7 @@ void CompactDatabase(Interpreter& interpreter, DataState& state, const std::stri
   temp.WriteAt(0, header);
 
   const std::int32_t count = CountOfHead(header);
-  const auto length = static_cast<std::int64_t>(Val(StrippedAreaText(header, zrf::kRecordLength)));
+  const std::int16_t length = ToInt16(Val(StrippedAreaText(header, zrf::kRecordLength)));
   const bool renumber = Upper(Trim(AreaText(header, zrf::FieldTypeArea(0)))) == "AUTOINC";
   RecordField first;
   first.width = FieldWidth("AutoInc", 0);

@@ -49,7 +49,7 @@ StoredDatabase ReadStoredDatabase(const DataFile& file) {
   db.count = Reading<std::int32_t>("record count", [&] { return CountOfHead(header.substr(0, zrf::kHeadSize)); });
   db.name = area("name", zrf::kName);
   db.recordLength = Reading<std::int32_t>(
-      "record length", [&] { return ToInt32(Val(StrippedAreaText(header, zrf::kRecordLength))); });
+      "record length", [&] { return ToInt16(Val(StrippedAreaText(header, zrf::kRecordLength))); });
   db.created = area("creation time", zrf::kCreated);
   db.prepared = area("last preparation", zrf::kPrepared);
   db.password = Reading<std::string>("password", [&] { return StrippedAreaText(header, zrf::kPassword); });

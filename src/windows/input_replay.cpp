@@ -55,6 +55,13 @@ QString TypedText(int qtKey, Qt::KeyboardModifiers modifiers) {
 
 void Warn(const std::string& what) { std::fprintf(stderr, "tamrix: TAMRIX_INPUT: %s\n", what.c_str()); }
 
+// While a modal window is up, the window system lets no input reach the
+// others.
+bool Blocked(const QWidget& widget) {
+  const QWidget* modal = QApplication::activeModalWidget();
+  return modal != nullptr && widget.window() != modal;
+}
+
 }  // namespace
 
 InputReplay::InputReplay(QtDesktop& desktop, std::vector<InputAction> actions)
@@ -95,6 +102,7 @@ void InputReplay::Perform(const InputAction& action) {
     case InputAction::Kind::Focus: {
       QWidget* control = desktop_.ObjectWidget(name);
       if (control == nullptr) return Warn("no object named " + action.target);
+      if (Blocked(*control)) return Warn(action.target + " is behind a modal window");
       if (action.kind == InputAction::Kind::Focus) {
         control->window()->activateWindow();
         control->setFocus(Qt::OtherFocusReason);
@@ -107,6 +115,7 @@ void InputReplay::Perform(const InputAction& action) {
     case InputAction::Kind::Close: {
       QWidget* window = desktop_.WindowWidget(name);
       if (window == nullptr) return Warn("no window named " + action.target);
+      if (Blocked(*window)) return Warn(action.target + " is behind a modal window");
       if (action.kind == InputAction::Kind::Close) {
         window->close();
         return;

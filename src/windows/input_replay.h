@@ -22,7 +22,6 @@ class InputReplay {
   InputReplay(QtDesktop& desktop, std::vector<InputAction> actions);
 
   void Start();
-  bool Finished() const { return pending_.empty(); }
 
  private:
   void Tick();

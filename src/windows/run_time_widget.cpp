@@ -126,15 +126,14 @@ void RunTimeWidget::SetBorderStyle(int style) {
   ApplySizeLimits();
 }
 
-bool RunTimeWidget::SetMouseIcon(const std::string& path) {
-  if (path.empty()) {
+// Qt reads icons but no cursor files (.cur, .ani).
+void RunTimeWidget::SetMouseIcon(const std::string& path) {
+  const QPixmap icon = path.empty() ? QPixmap() : QPixmap(FileName(path));
+  if (icon.isNull()) {
     unsetCursor();
-    return true;
+  } else {
+    setCursor(QCursor(icon));
   }
-  const QPixmap icon(FileName(path));
-  if (icon.isNull()) return false;
-  setCursor(QCursor(icon));
-  return true;
 }
 
 void RunTimeWidget::SetBackColor(std::int32_t colour) {
@@ -194,7 +193,7 @@ void RunTimeWidget::resizeEvent(QResizeEvent* event) {
 
 void RunTimeWidget::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
-  if (!event->spontaneous()) emit Hidden();
+  if (!event->spontaneous() && !changingFlags_) emit Hidden();
 }
 
 // A press on a window that is not active makes it active, as the window
@@ -230,14 +229,23 @@ void RunTimeWidget::mouseDoubleClickEvent(QMouseEvent* event) {
   Deliver([](Interpreter& in) { OnWindowClick(in, true); });
 }
 
+// A window without border has no title bar, so none of its buttons either.
 void RunTimeWidget::ApplyWindowFlags() {
   Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint;
-  flags |= frameless_ ? Qt::FramelessWindowHint : Qt::WindowTitleHint;
-  if (controlBox_) flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
-  if (minMaxButtons_) flags |= Qt::WindowMinMaxButtonsHint;
+  if (frameless_) {
+    flags |= Qt::FramelessWindowHint;
+  } else {
+    flags |= Qt::WindowTitleHint;
+    if (controlBox_) flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    if (minMaxButtons_) flags |= Qt::WindowMinMaxButtonsHint;
+  }
   if (flags == windowFlags()) return;
   const bool shown = isVisible();
-  setWindowFlags(flags);  // hides the window
+  // Qt hides the window to change its flags; that is no hiding of the
+  // program's, and a modal wait on the window goes on.
+  changingFlags_ = true;
+  setWindowFlags(flags);
+  changingFlags_ = false;
   if (shown) Show();
 }
 

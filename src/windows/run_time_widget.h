@@ -33,10 +33,8 @@ class RunTimeWidget : public QWidget, public RunTimeWindow {
   void Show() override;
   void ShowModal() override;
   void Hide() override { hide(); }
-  bool IsVisible() const override { return isVisible(); }
   bool IsMaximized() const override { return isMaximized(); }
   void Restore() override { showNormal(); }
-  void Close() override { close(); }
   TwipRect Outer() const override;
   void SetOuter(const TwipRect& rect) override;
   void SetSizable(bool sizable) override;
@@ -44,7 +42,7 @@ class RunTimeWidget : public QWidget, public RunTimeWindow {
   void SetBorderStyle(int style) override;
   void SetKeyPreview(bool on) override { keyPreview_ = on; }
   bool KeyPreview() const override { return keyPreview_; }
-  bool SetMouseIcon(const std::string& path) override;
+  void SetMouseIcon(const std::string& path) override;
   void SetBackColor(std::int32_t colour) override;
   bool SetPicture(const std::string& path) override;
   bool PaintPicture(const std::string& path, int x, int y) override;
@@ -85,6 +83,7 @@ class RunTimeWidget : public QWidget, public RunTimeWindow {
   // The activation that the platform delivers after the program showed the
   // window is not the user's doing and leaves the Current Window alone.
   bool ownActivationPending_ = false;
+  bool changingFlags_ = false;
   bool leftPressed_ = false;
   bool afterDoubleClick_ = false;
 };

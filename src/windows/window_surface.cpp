@@ -77,7 +77,8 @@ void WindowSurface::DrawCircle(int x, int y, int radius, std::int32_t colour) {
 void WindowSurface::DrawBox(int x1, int y1, int x2, int y2, std::int32_t colour) {
   Paint([&](QPainter& painter) {
     // Both corners belong to the box.
-    painter.fillRect(QRect(QPoint(x1, y1), QPoint(x2, y2)).normalized(), ScreenColour(colour));
+    const QRect box(QPoint(std::min(x1, x2), std::min(y1, y2)), QPoint(std::max(x1, x2), std::max(y1, y2)));
+    painter.fillRect(box, ScreenColour(colour));
     if (drawWidth_ > 1) {
       painter.setPen(FigurePen(colour, drawWidth_));
       painter.drawRect(QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized());

@@ -63,6 +63,18 @@ TEST(FormTest, AModalShowReturnsWhenTheWindowCloses) {
   EXPECT_FALSE(form.isModal());
 }
 
+TEST(FormTest, ChangingTheBorderDuringAModalShowKeepsTheWait) {
+  Form form(WindowClass::Form1, "W");
+  bool stillModal = false;
+  QTimer::singleShot(10, [&] { form.SetBorderStyle(0); });
+  QTimer::singleShot(40, [&] {
+    stillModal = form.isVisible() && form.isModal();
+    form.close();
+  });
+  form.ShowModal();
+  EXPECT_TRUE(stillModal);
+}
+
 TEST(FormTest, ClosingLeavesABlankWindow) {
   Form form(WindowClass::Form1, "W");
   form.Show();

@@ -1,4 +1,5 @@
 #include "core/conditions.h"
+#include "core/fault.h"
 
 #include <gtest/gtest.h>
 
@@ -56,7 +57,7 @@ TEST(ConditionsTest, SplittingClearsTheArraysOfTheLastCondition) {
   SplitCondition("x > 0", arrays);
   EXPECT_EQ(Filled(arrays.operands), (Texts{"x", "0"}));
   EXPECT_EQ(Filled(arrays.comparisons), Texts{">"});
-  EXPECT_TRUE(arrays.logics[0].empty());
+  EXPECT_EQ(Filled(arrays.logics), Texts{});
 }
 
 TEST(ConditionsTest, CompareValuesConvertsOnlyWhenTheLeftSideIsANumber) {
@@ -94,6 +95,24 @@ TEST(ConditionsTest, LogicalWordsCombineStrictlyFromTheLeft) {
     ConditionArrays arrays;
     bool numeric = false;
     EXPECT_EQ(EvaluateCondition(box.interpreter, condition, arrays, numeric), result) << condition;
+  }
+}
+
+TEST(ConditionsTest, TwentyComparisonsFitAndTwentyTwoAreABoundsFault) {
+  testing::Sandbox box;
+  const auto joined = [](int comparisons) {
+    std::string text = "1 = 1";
+    for (int i = 1; i < comparisons; ++i) text += " AND 1 = 1";
+    return text;
+  };
+  ConditionArrays arrays;
+  bool numeric = false;
+  EXPECT_EQ(EvaluateCondition(box.interpreter, joined(20), arrays, numeric), "TRUE");
+  try {
+    EvaluateCondition(box.interpreter, joined(22), arrays, numeric);
+    FAIL() << "no fault";
+  } catch (const RuntimeFault& fault) {
+    EXPECT_EQ(fault.Number(), kSubscriptOutOfRange);
   }
 }
 

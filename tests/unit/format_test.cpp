@@ -89,8 +89,7 @@ INSTANTIATE_TEST_SUITE_P(
             FormatCase{"", "0;(0);\\z\\e\\r\\o;\\n\\o\\n\\e", "none"},
             // A text that is no number stands as it is.
             FormatCase{"abc", "0.00", "abc"},
-            FormatCase{"2.5", "", "2.5"}))
-    /* no names: the cases are many and their values say enough */);
+            FormatCase{"2.5", "", "2.5"})));
 
 // The named patterns of numbers, compared without regard to case.
 INSTANTIATE_TEST_SUITE_P(

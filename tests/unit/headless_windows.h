@@ -93,10 +93,8 @@ class HeadlessWindow : public RunTimeWindow {
     visible = false;
   }
   void Hide() override { visible = false; }
-  bool IsVisible() const override { return visible; }
   bool IsMaximized() const override { return maximized; }
   void Restore() override { maximized = false; }
-  void Close() override { ++closes; }
   TwipRect Outer() const override { return outer; }
   void SetOuter(const TwipRect& rect) override { outer = rect; }
   void SetSizable(bool on) override { sizable = on; }
@@ -104,10 +102,7 @@ class HeadlessWindow : public RunTimeWindow {
   void SetBorderStyle(int style) override { borderStyle = style; }
   void SetKeyPreview(bool on) override { keyPreview = on; }
   bool KeyPreview() const override { return keyPreview; }
-  bool SetMouseIcon(const std::string& path) override {
-    mouseIcon = path;
-    return true;
-  }
+  void SetMouseIcon(const std::string& path) override { mouseIcon = path; }
   void SetBackColor(std::int32_t colour) override { backColor = colour; }
   bool SetPicture(const std::string& path) override {
     picture = path;
@@ -124,7 +119,6 @@ class HeadlessWindow : public RunTimeWindow {
   bool visible = false;
   bool maximized = false;
   int modalShows = 0;
-  int closes = 0;
   TwipRect outer{1200, 1000, 9600, 6200};
   bool sizable = true;
   bool controlBox = true;

@@ -2,12 +2,15 @@
 // order and the search, compaction, and the failures that end a program.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 
+#include "core/regional.h"
 #include "data/record_layout.h"
 #include "data/scrambled_value.h"
 #include "data_test_support.h"
 #include "headless_desktop.h"
+#include "library_test_support.h"
 
 namespace tamrix::testing {
 namespace {
@@ -53,6 +56,7 @@ class RecordProgramTest : public ::testing::Test {
     lines.insert(lines.end(), body.begin(), body.end());
     run = std::make_unique<ProgramRun>(answers);
     run->programPath = folder.Slash();
+    run->desktop.onPump = onPump;
     return run->Run(Joined(lines));
   }
   std::string File() const { return folder / "Agenda.Zrf"; }
@@ -60,6 +64,7 @@ class RecordProgramTest : public ::testing::Test {
 
   TempFolder folder;
   std::unique_ptr<ProgramRun> run;
+  std::function<void()> onPump;  // each time the program lets events run
 };
 
 TEST_F(RecordProgramTest, AddedRecordsReadBackIntoTheFieldVariables) {
@@ -207,6 +212,17 @@ TEST_F(RecordProgramTest, AnOrderOnADecimalKeySortsAndSearchesItsText) {
   EXPECT_EQ(run->Written(), (std::vector<std::string>{"10", "1"}));
 }
 
+TEST_F(RecordProgramTest, UnderACommaLocaleDecimalKeysAreSearchedWithTheComma) {
+  Regional comma;
+  comma.decimalSign = ',';
+  comma.groupingSign = '.';
+  const ScopedRegional settings(comma);
+  Run({"Agenda.Saldo = 2.5", "AddRecord Agenda", "OrderDB Agenda, Saldo", "r = ReadRecord(Agenda, 0)",
+       "Write Agenda.Saldo", "n = FindDB(Agenda, \"FIRST\", \"2,5\")", "Write n",
+       "n = FindDB(Agenda, \"FIRST\", \"2.5\")", "Write n"});
+  EXPECT_EQ(run->Written(), (std::vector<std::string>{"2,5", "0", "-1"}));
+}
+
 TEST_F(RecordProgramTest, UpdateUnderAnOrderEndsTheProgramAndWritesNothing) {
   const int status = Run({"Agenda.Nome = \"a\"", "AddRecord Agenda", "OrderDB Agenda, Nome", "Agenda.Nome = \"b\"",
                           "UpdateRecord Agenda, 0", "Write \"not reached\""});
@@ -272,24 +288,31 @@ TEST_F(RecordProgramTest, AFolderThatCannotBeMadeEndsTheProgramAtTheOpen) {
   EXPECT_EQ(Messages(*run), (std::vector<std::string>{"Run-time error '76':\\r\\n\\r\\nPath not found"}));
 }
 
+TEST_F(RecordProgramTest, DamagedFilesEndTheProgramWithTheFatalBox) {
+  WriteBytes(File(), "0" + std::string(29, 'x'));  // no record length in the header
+  EXPECT_EQ(Run({"Write \"not reached\""}), 1);
+  EXPECT_EQ(Messages(*run), (std::vector<std::string>{"Run-time error '5':\\r\\n\\r\\nInvalid procedure call or argument"}));
+  std::filesystem::remove(File());
+  // Cut below its first 20 bytes while open: the lock byte can't be read.
+  onPump = [this] { std::filesystem::resize_file(File(), 10); };
+  EXPECT_EQ(Run({"Write \"cut\"", "AddRecord Agenda"}), 1);
+  EXPECT_EQ(Messages(*run), (std::vector<std::string>{"Run-time error '62':\\r\\n\\r\\nInput past end of file"}));
+}
+
 TEST_F(RecordProgramTest, TheLockWaitLetsEventsRunUntilTheByteIsFree) {
   Run({});
   std::string bytes = ReadBytes(File());
   bytes[0] = '1';
   WriteBytes(File(), bytes);
-  run = std::make_unique<ProgramRun>();
-  run->programPath = folder.Slash();
   int pumps = 0;
-  run->desktop.onPump = [&] {
+  onPump = [&] {
     if (++pumps == 3) {
       std::string now = ReadBytes(File());
       now[0] = '0';
       WriteBytes(File(), now);
     }
   };
-  std::vector<std::string> lines = kAgenda;
-  lines.insert(lines.end(), {"Agenda.Nome = \"x\"", "AddRecord Agenda", "n = TotalRecordsDB(Agenda)", "Write n"});
-  run->Run(Joined(lines));
+  Run({"Agenda.Nome = \"x\"", "AddRecord Agenda", "n = TotalRecordsDB(Agenda)", "Write n"});
   EXPECT_EQ(pumps, 4);  // three in the wait, one by Write
   EXPECT_EQ(run->Written(), (std::vector<std::string>{"1"}));
   EXPECT_EQ(Head()[0], '0');

@@ -2,6 +2,9 @@
 // settings in twips, and where output goes while window code runs.
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -140,6 +143,39 @@ TEST(WindowCommandTest, AMissingBackgroundPictureShowsBothBoxes) {
             (Texts{BoxLine("ok", "none", "Tamrix",
                            "Editor: 0 Line: 2\\rBackground - Image file not found:\\rno such picture.png", "OK"),
                    QueryBoxLine("Editor: 0 Line: 2\\r\\nError in the Background property!")}));
+}
+
+// A bare file name is looked up in the program's folder, /tmp/ here.
+TEST(WindowCommandTest, APictureIsPaintedAtLineAndColumnOrBecomesTheBackground) {
+  const std::string name = "tamrix_background_" + std::to_string(::getpid()) + ".png";
+  std::FILE* file = std::fopen(("/tmp/" + name).c_str(), "w");
+  ASSERT_NE(file, nullptr);
+  std::fclose(file);
+  ProgramRun run;
+  run.Run(Lines({("Window BACKGROUND = \"" + name + "\", 2, 3").c_str(), "NewWindow SET, W",
+                 ("NewWindow W.BACKGROUND = \"" + name + "\"").c_str()}));
+  EXPECT_EQ(run.desktop.mainWindow.painted, Texts{"/tmp/" + name + " 24 28"});
+  EXPECT_EQ(WindowNamed(run, "W").picture, "/tmp/" + name);
+  ProgramRun cleared;
+  cleared.Run(Lines({("Window BACKGROUND = \"" + name + "\"").c_str(), "Window BACKGROUND = null"}));
+  EXPECT_EQ(cleared.desktop.mainWindow.picture, "");
+  std::remove(("/tmp/" + name).c_str());
+}
+
+TEST(WindowCommandTest, TheMouseIconGoesToTheCurrentWindowFromTheResolvedPath) {
+  ProgramRun run;
+  run.desktop.mainWindow.mouseIcon = "before";
+  run.Run(Lines({"NewWindow SET, W", "NewWindow W.USE", "Window MOUSEICON = \"/etc/hostname\"",
+                 "NewWindow PARENT.USE", "Window MOUSEICON = \"missing.ico\""}));
+  EXPECT_EQ(WindowNamed(run, "W").mouseIcon, "/etc/hostname");
+  EXPECT_EQ(run.desktop.mainWindow.mouseIcon, "");
+}
+
+TEST(NewWindowTest, AMissingBackgroundShowsTheErrorIconBox) {
+  ProgramRun run;
+  run.Run(Lines({"NewWindow SET, W", "NewWindow W.BACKGROUND = \"none.png\", 1, 1"}));
+  ASSERT_EQ(run.Boxes().size(), 2u);
+  EXPECT_EQ(run.Boxes()[1], StopBoxLine("Error in BackGround property!Editor: 0 Line: 2"));
 }
 
 TEST(WindowCommandTest, AConversionFaultGoesToTheCommandErrorBox) {

@@ -84,7 +84,6 @@ class WholeWriter {
  public:
   WholeWriter(std::string digits, bool grouping) : digits_(std::move(digits)), grouping_(grouping) {}
 
-  const std::string& Digits() const { return digits_; }
   void Write(std::string& out, std::size_t position) const {
     out += digits_[position];
     const std::size_t fromRight = digits_.size() - 1 - position;
