@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdlib>
+#include <unordered_map>
 
 #include "core/conditions.h"
 #include "core/dispatcher.h"
@@ -18,7 +19,53 @@
 namespace tamrix {
 namespace {
 
-std::string LineTag(int pc) { return "&#" + ZeroPadded(pc, 5); }
+// "&#" and the statement number in five digits (more when it is larger).
+std::string LineTag(int pc) {
+  std::string tag = "&#00000";
+  const std::string digits = std::to_string(pc);
+  if (digits.size() >= 5) return "&#" + digits;
+  tag.replace(tag.size() - digits.size(), digits.size(), digits);
+  return tag;
+}
+
+// What the main loop needs to know of a line, found once per line: a
+// frame's text never changes, so neither does anything read off a line.
+struct LineForm {
+  std::string line;
+  std::string upper;
+  std::string errorPosition;
+  bool endProgram = false;
+  bool endFunction = false;
+  bool endWindow = false;
+  bool newWindow = false;
+  std::size_t goTo = npos;
+  std::size_t whileAt = npos;
+  std::size_t loopAt = npos;
+  std::size_t endIfAt = npos;
+  std::size_t ifAt = npos;
+  std::size_t elseAt = npos;
+};
+
+LineForm ReadLineForm(std::string line) {
+  LineForm form;
+  if (line.size() >= kStatementColumn) {
+    form.errorPosition = "Editor: " + std::to_string(std::atol(line.substr(16, 2).c_str())) +
+                         " Line: " + std::to_string(std::atol(line.substr(9, 5).c_str()) + 1);
+  }
+  form.upper = Upper(line);
+  form.endProgram = Contains(form.upper, "ENDPROGRAM");
+  form.endFunction = Contains(form.upper, "ENDFUNCTION");
+  form.endWindow = Contains(form.upper, "ENDWINDOW");
+  form.newWindow = Contains(form.upper, "NEWWINDOW");
+  form.goTo = line.find("GoTo");
+  form.whileAt = line.find("While[");
+  form.loopAt = line.find("Loop[");
+  form.endIfAt = line.find("EndIf[");
+  form.ifAt = line.find("If[");
+  form.elseAt = line.find("Else[");
+  form.line = std::move(line);
+  return form;
+}
 
 class Frame {
  public:
@@ -34,13 +81,17 @@ class Frame {
   void JumpToLineAt(std::size_t position);
   int NumberOfLineAt(std::size_t position) const;
   Next Step();
+  const LineForm& FormOfLine();
+  // Text searches from a place; the answers are kept, as the text is fixed.
+  std::size_t FindFrom(const std::string& marker, std::size_t from);
+  std::size_t FindBackFrom(const std::string& marker, std::size_t from);
   Next Increment(const std::string& line, std::string_view sign);
   bool CompoundAssign(std::string& line, char sign);
   Next GoTo(const std::string& line, std::size_t p);
   std::string Depth(const std::string& line, std::size_t open) const;
-  void Dispatch(const std::string& line);
+  void Dispatch(const LineForm& form);
   void DeclareVariables(const std::string& line, const std::string& word);
-  void Assign(const std::string& line, const std::string& word, bool numeric);
+  void Assign(const LineForm& form, const std::string& word, bool numeric);
   void Concatenate(const std::string& expr, const std::string& word);
   std::string& IfState(const std::string& depth);
   std::string GoToPrefix(const std::string& line) const;
@@ -53,7 +104,35 @@ class Frame {
   std::array<std::string, 21> ifState_;
   ConditionArrays conditions_;
   bool flag_ = false;
+  std::unordered_map<std::size_t, LineForm> forms_;
+  std::unordered_map<std::string, std::size_t> searches_;
 };
+
+const LineForm& Frame::FormOfLine() {
+  auto hit = forms_.find(lineStart_);
+  if (hit == forms_.end()) {
+    hit = forms_.emplace(lineStart_, ReadLineForm(text_.substr(lineStart_, lineEnd_ - lineStart_))).first;
+  }
+  return hit->second;
+}
+
+std::size_t Frame::FindFrom(const std::string& marker, std::size_t from) {
+  const std::string key = marker + '>' + std::to_string(from);
+  const auto hit = searches_.find(key);
+  if (hit != searches_.end()) return hit->second;
+  const auto found = text_.find(marker, from);
+  searches_.emplace(key, found);
+  return found;
+}
+
+std::size_t Frame::FindBackFrom(const std::string& marker, std::size_t from) {
+  const std::string key = marker + '<' + std::to_string(from);
+  const auto hit = searches_.find(key);
+  if (hit != searches_.end()) return hit->second;
+  const auto found = text_.rfind(marker, from);
+  searches_.emplace(key, found);
+  return found;
+}
 
 int Frame::NumberOfLineAt(std::size_t position) const {
   const auto start = text_.rfind("&#", position);
@@ -126,28 +205,24 @@ Frame::Next Frame::Step() {
   }
   if (state.statementBudget > 0) --state.statementBudget;
 
-  std::string line = text_.substr(lineStart_, lineEnd_ - lineStart_);
-  if (line.size() >= kStatementColumn) {
-    state.errorPosition = "Editor: " + std::to_string(std::atol(line.substr(16, 2).c_str())) +
-                          " Line: " + std::to_string(std::atol(line.substr(9, 5).c_str()) + 1);
-  }
-
-  const std::string upper = Upper(line);
-  if (Contains(upper, "ENDPROGRAM")) {
+  const LineForm& form = FormOfLine();
+  if (!form.errorPosition.empty()) state.errorPosition = form.errorPosition;
+  if (form.endProgram) {
     state.stopFlag = true;
     return Next::End;
   }
-  if (Contains(upper, "ENDFUNCTION")) return Next::End;
-  if (Contains(upper, "ENDWINDOW")) {
+  if (form.endFunction) return Next::End;
+  if (form.endWindow) {
     in_.Screen().CloseMainWindow();
     return Next::End;
   }
 
+  std::string line = form.line;
   if (EndsWith(line, "++")) return Increment(line, "++");
   if (EndsWith(line, "--")) return Increment(line, "--");
   if (CompoundAssign(line, '+') || CompoundAssign(line, '-')) return Next::Line;
 
-  if (Contains(upper, "NEWWINDOW")) {
+  if (form.newWindow) {
     std::string arguments = line.size() > 29 ? line.substr(29) : std::string();
     in_.Commands().RunCommand(in_, "NewWindow", arguments);
     return Next::Line;
@@ -157,40 +232,40 @@ Frame::Next Frame::Step() {
     pc_ = in_.DatabaseBlockReader()(in_, text_, lineStart_, pc_);
     return Next::Line;
   }
-  if (const auto p = line.find("GoTo"); p != std::string::npos) return GoTo(line, p);
+  if (form.goTo != npos) return GoTo(line, form.goTo);
 
-  if (const auto p = line.find("While["); p != std::string::npos) {
+  if (const auto p = form.whileAt; p != npos) {
     const std::string d = Depth(line, p + 6);
     const std::string condition = line.size() > p + 9 ? line.substr(p + 9) : std::string();
     if (EvaluateCondition(in_, condition, conditions_, flag_) == "TRUE") return Next::Line;
-    const auto loop = text_.find("Loop[" + d + "]", lineStart_);
+    const auto loop = FindFrom("Loop[" + d + "]", lineStart_);
     if (loop != std::string::npos) {
       pc_ = NumberOfLineAt(loop);
       return Next::Line;
     }
   }
-  if (const auto p = line.find("Loop["); p != std::string::npos) {
+  if (const auto p = form.loopAt; p != npos) {
     const std::string d = Depth(line, p + 5);
-    const auto loopStart = lineStart_ == 0 ? std::string::npos : text_.rfind("While[" + d + "]", lineStart_ - 1);
+    const auto loopStart = lineStart_ == 0 ? npos : FindBackFrom("While[" + d + "]", lineStart_ - 1);
     if (loopStart != std::string::npos) {
       JumpToLineAt(loopStart);
       return Next::Jumped;
     }
   }
   bool reachedElse = false;
-  if (const auto p = line.find("EndIf["); p != std::string::npos) {
+  if (const auto p = form.endIfAt; p != npos) {
     IfState(Depth(line, p + 6)).clear();
     reachedElse = true;
   }
-  if (const auto p = line.find("If["); !reachedElse && p != std::string::npos) {
+  if (const auto p = form.ifAt; !reachedElse && p != npos) {
     const std::string d = Depth(line, p + 3);
     std::string& ifState = IfState(d);
     const std::string condition = line.size() > p + 6 ? line.substr(p + 6) : std::string();
     ifState = EvaluateCondition(in_, condition, conditions_, flag_);
     if (Contains(line, "MouseClick")) in_.Variables().SetVariable("MouseClick", std::string("FALSE"), false);
     if (ifState == "TRUE") return Next::Line;
-    const auto endIf = text_.find("EndIf[" + d + "]", lineStart_);
-    const auto elseAt = text_.find("Else[" + d + "]", lineStart_);
+    const auto endIf = FindFrom("EndIf[" + d + "]", lineStart_);
+    const auto elseAt = FindFrom("Else[" + d + "]", lineStart_);
     if (endIf != std::string::npos) {
       const int e = NumberOfLineAt(endIf);
       const int x = elseAt == std::string::npos ? -1 : NumberOfLineAt(elseAt);
@@ -203,18 +278,18 @@ Frame::Next Frame::Step() {
       return Next::Line;
     }
   }
-  if (const auto p = line.find("Else["); p != std::string::npos) {
+  if (const auto p = form.elseAt; p != npos) {
     const std::string d = Depth(line, p + 5);
     std::string& ifState = IfState(d);
     if (ifState == "FALSE") return Next::Line;
-    const auto endIf = text_.find("EndIf[" + d + "]", lineStart_);
+    const auto endIf = FindFrom("EndIf[" + d + "]", lineStart_);
     if (endIf != std::string::npos) {
       pc_ = NumberOfLineAt(endIf);
       ifState.clear();
       return Next::Line;
     }
   }
-  Dispatch(line);
+  Dispatch(form);
   return Next::Line;
 }
 
@@ -265,7 +340,8 @@ Frame::Next Frame::GoTo(const std::string& line, std::size_t p) {
   return Next::Jumped;
 }
 
-void Frame::Dispatch(const std::string& line) {
+void Frame::Dispatch(const LineForm& form) {
+  const std::string& line = form.line;
   const std::string statement = line.size() > kStatementColumn ? line.substr(kStatementColumn) : std::string();
   const std::string word = statement.substr(0, statement.find(' '));
   const std::string upperWord = Upper(word);
@@ -279,7 +355,7 @@ void Frame::Dispatch(const std::string& line) {
   } else if (upperWord == "RETURN") {
     in_.State().returnValue = Evaluate(in_, rest(), flag_);
   } else if (vars.VarIndex(word) >= 0) {
-    Assign(line, word, vars.LastVarType() != VarType::String);
+    Assign(form, word, vars.LastVarType() != VarType::String);
   } else if (IsCommandWord(word) || StartsWith(upperWord, "REP.")) {
     std::string arguments = rest();
     in_.Commands().RunCommand(in_, word, arguments);
@@ -293,8 +369,9 @@ void Frame::DeclareVariables(const std::string& line, const std::string& word) {
   in_.DeclareVariables(list, flag_);
 }
 
-void Frame::Assign(const std::string& line, const std::string& word, bool numeric) {
-  const std::string upper = Upper(line);
+void Frame::Assign(const LineForm& form, const std::string& word, bool numeric) {
+  const std::string& line = form.line;
+  const std::string& upper = form.upper;
   const bool textParts = Contains(upper, "CHR(") || Contains(upper, "JOIN(") || Contains(upper, "FORMAT(") ||
                          Contains(upper, "DIRECTORY(") || Contains(upper, "SQL(");
   const auto equals = line.find('=');

@@ -1,5 +1,7 @@
 #include "core/numbers.h"
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -40,6 +42,13 @@ double ReadRadix(std::string_view s, std::size_t i, int radix) {
 }  // namespace
 
 double Val(std::string_view text) {
+  // Plain whole numbers, the common case, need no general reading.
+  if (!text.empty() && text.size() <= 15 &&
+      std::all_of(text.begin(), text.end(), [](char c) { return IsDigit(c); })) {
+    double whole = 0;
+    for (char c : text) whole = whole * 10 + (c - '0');
+    return whole;
+  }
   std::size_t i = 0;
   while (i < text.size() && IsSkippedByVal(text[i])) ++i;
   if (i + 1 < text.size() && text[i] == '&') {
@@ -149,13 +158,18 @@ std::optional<double> ParseRegionalNumber(std::string_view text) {
 std::string NumberText(double value) {
   if (value == 0) return "0";
   char buffer[40];
-  std::snprintf(buffer, sizeof buffer, "%.15G", value);
-  std::string text = buffer;
+  // Whole numbers below 1E15 print as their digits.
+  if (std::abs(value) < 1e15 && value == std::trunc(value)) {
+    const auto result = std::to_chars(buffer, buffer + sizeof buffer, static_cast<long long>(value));
+    return std::string(buffer, result.ptr);
+  }
+  // The form of printf's "%.15G": to_chars gives it with a lower-case "e".
+  const auto result = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 15);
+  std::string text(buffer, result.ptr);
   const char sign = Regional::Current().decimalSign;
-  if (sign != '.') {
-    for (char& c : text) {
-      if (c == '.') c = sign;
-    }
+  for (char& c : text) {
+    if (c == 'e') c = 'E';
+    if (c == '.' && sign != '.') c = sign;
   }
   return text;
 }

@@ -1,0 +1,140 @@
+// The run-time's shortcuts must answer exactly as the plain text searches
+// and conversions they stand for: the caches of texts without calls, the
+// per-line records and jump searches of the executor, and the quick forms of
+// number writing and reading.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <random>
+
+#include "core/call_search_cache.h"
+#include "core/numbers.h"
+#include "core/procedures.h"
+#include "core_sandbox.h"
+
+namespace tamrix::testing {
+namespace {
+
+std::string PrintfGeneral(double value) {
+  char buffer[64];
+  std::snprintf(buffer, sizeof buffer, "%.15G", value);
+  return buffer;
+}
+
+TEST(FastNumberText, MatchesTheGeneralFormOfPrintf) {
+  ScopedRegional point{NumberSettings('.')};
+  for (double value : {1.0, -1.0, 7.0, 0.5, -0.25, 1e14, 999999999999999.0, 1e15, 1234567890123456.0,
+                       1e-4, 1e-5, 1.5e-5, 0.1 + 0.2, 2.0 / 3.0, -1e300, 4.9e-324, 2999997.0, 19999900000.0}) {
+    EXPECT_EQ(NumberText(value), PrintfGeneral(value)) << value;
+  }
+  std::mt19937_64 random(7);
+  std::uniform_real_distribution<double> exponent(-20, 20);
+  for (int i = 0; i < 2000; ++i) {
+    const double value = std::pow(10.0, exponent(random)) * (i % 2 == 0 ? 1 : -1);
+    const double whole = std::round(value);
+    EXPECT_EQ(NumberText(value), PrintfGeneral(value)) << value;
+    if (whole != 0) {
+      EXPECT_EQ(NumberText(whole), PrintfGeneral(whole)) << whole;
+    }
+  }
+}
+
+TEST(FastNumberText, UsesTheRegionalDecimalSign) {
+  ScopedRegional comma{NumberSettings(',')};
+  EXPECT_EQ(NumberText(1.5), "1,5");
+  EXPECT_EQ(NumberText(1.5e-7), "1,5E-07");
+  EXPECT_EQ(NumberText(42), "42");
+}
+
+TEST(FastVal, WholeNumbersReadAsTheGeneralReading) {
+  for (const char* digits : {"0", "7", "0042", "123456789012345", "999999999999999"}) {
+    EXPECT_EQ(Val(digits), std::strtod(digits, nullptr)) << digits;
+  }
+  // Longer or mixed texts take the general way.
+  EXPECT_EQ(Val("1234567890123456"), 1234567890123456.0);
+  EXPECT_EQ(Val("12 34"), 1234);
+  EXPECT_EQ(Val("12abc"), 12);
+}
+
+TEST(CallSearchCacheTest, KeepsOnlyShortTextsAndForgetsOnClear) {
+  CallSearchCache cache;
+  cache.RememberWithoutCall("x + 1");
+  EXPECT_TRUE(cache.KnownWithoutCall("x + 1"));
+  EXPECT_FALSE(cache.KnownWithoutCall("x + 2"));
+  const std::string longText(600, 'a');
+  cache.RememberWithoutCall(longText);
+  EXPECT_FALSE(cache.KnownWithoutCall(longText));
+  cache.Clear();
+  EXPECT_FALSE(cache.KnownWithoutCall("x + 1"));
+}
+
+TEST(CallSearchCacheTest, TextsWithACallOrAnUnmatchedBracketAreSearchedEachTime) {
+  Sandbox box;
+  box.Declare("n Integer");
+  CallRecord call;
+  // No call: the answer is the same from the search and from the cache.
+  EXPECT_FALSE(FindCommandCall(box.interpreter, "n + 1", call));
+  EXPECT_FALSE(FindCommandCall(box.interpreter, "n + 1", call));
+  // A keyword whose bracket cannot be matched shows its box every time.
+  EXPECT_FALSE(FindCommandCall(box.interpreter, "Int 3", call));
+  EXPECT_FALSE(FindCommandCall(box.interpreter, "Int 3", call));
+  EXPECT_EQ(box.Boxes().size(), 2u);
+  // A call is found every time.
+  EXPECT_TRUE(FindCommandCall(box.interpreter, "Int(3.7)", call));
+  EXPECT_TRUE(FindCommandCall(box.interpreter, "Int(3.7)", call));
+  EXPECT_EQ(call.name, "Int");
+}
+
+TEST(CallSearchCacheTest, FunctionNamesOfANewScanAreFound) {
+  Sandbox box;
+  CallRecord call;
+  std::string returnType;
+  box.Load({Unit({"EndProgram"})});
+  EXPECT_FALSE(FindFunctionCall(box.interpreter, "Twice(2)", call, returnType));
+  box.Load({Unit({"EndProgram", "Function Twice(a Integer) Integer", "Return a * 2", "EndFunction"})});
+  EXPECT_TRUE(FindFunctionCall(box.interpreter, "Twice(2)", call, returnType));
+  EXPECT_EQ(returnType, "Integer");
+}
+
+// Loops run each line and each jump search many times, so that the second
+// and later answers come from the frame's records.
+INSTANTIATE_TEST_SUITE_P(
+    RepeatedLines, ProgramCases,
+    ::testing::Values(
+        ProgramCase{"IfElseInALoop",
+                    {"Variable i Integer", "While i < 4", "If i % 2 = 0", "Write \"even \", i", "Else",
+                     "Write \"odd \", i", "EndIf", "i++", "Loop"},
+                    {"even 0", "odd 1", "even 2", "odd 3"}},
+        // The false way of the first If finds the Else of the second block
+        // of the same depth, behind its own EndIf, and so goes to the EndIf.
+        ProgramCase{"ElseOfALaterBlock",
+                    {"Variable i Integer", "While i < 3", "If i = 1", "Write \"one\"", "EndIf", "If i = 2",
+                     "Write \"two\"", "Else", "Write \"not two\"", "EndIf", "i++", "Loop"},
+                    {"not two", "one", "not two", "two"}},
+        // A literal holding the tag of a line behind the next one is passed
+        // by the line search.
+        ProgramCase{"LiteralHoldingALaterTag",
+                    {"Variable s String, i Integer", "While i < 2", "s = \"&#00004\"", "Write \"a\", i", "i++",
+                     "Loop", "Write \"end\""},
+                    {"a0", "a1", "end"}},
+        ProgramCase{"GoToBackwards",
+                    {"Variable i Integer", "Again:", "i++", "If i < 3", "GoTo Again", "EndIf", "Write i"},
+                    {"3"}}),
+    ByName());
+
+// A literal holding the tag of the very next line is taken for that line:
+// the fetch lands inside the literal, the rest of its line is an unknown
+// word, and the real next line is skipped, on every pass of the loop.
+TEST(RepeatedLines, LiteralHoldingTheNextTagIsTakenForTheLine) {
+  ProgramRun run;
+  run.Run(Lines({"Variable s String, i Integer", "While i < 2", "s = \"&#00003\"", "Write \"skipped\"", "i++",
+                 "Loop", "Write \"end\""}));
+  EXPECT_EQ(run.Written(), std::vector<std::string>{"end"});
+  const std::string unknownWord = QueryBoxLine("Editor: 0 Line: 3\\r\\nError: variable undeclared: ");
+  EXPECT_EQ(run.Boxes(), (std::vector<std::string>{unknownWord, unknownWord}));
+}
+
+}  // namespace
+}  // namespace tamrix::testing
