@@ -83,8 +83,8 @@ class Frame {
   Next Step();
   const LineForm& FormOfLine();
   // Text searches from a place; the answers are kept, as the text is fixed.
-  std::size_t FindFrom(const std::string& marker, std::size_t from);
-  std::size_t FindBackFrom(const std::string& marker, std::size_t from);
+  enum class Direction { Forward, Backward };
+  std::size_t Search(const std::string& marker, std::size_t from, Direction direction);
   Next Increment(const std::string& line, std::string_view sign);
   bool CompoundAssign(std::string& line, char sign);
   Next GoTo(const std::string& line, std::size_t p);
@@ -116,20 +116,12 @@ const LineForm& Frame::FormOfLine() {
   return hit->second;
 }
 
-std::size_t Frame::FindFrom(const std::string& marker, std::size_t from) {
-  const std::string key = marker + '>' + std::to_string(from);
+std::size_t Frame::Search(const std::string& marker, std::size_t from, Direction direction) {
+  const bool forward = direction == Direction::Forward;
+  const std::string key = marker + (forward ? '>' : '<') + std::to_string(from);
   const auto hit = searches_.find(key);
   if (hit != searches_.end()) return hit->second;
-  const auto found = text_.find(marker, from);
-  searches_.emplace(key, found);
-  return found;
-}
-
-std::size_t Frame::FindBackFrom(const std::string& marker, std::size_t from) {
-  const std::string key = marker + '<' + std::to_string(from);
-  const auto hit = searches_.find(key);
-  if (hit != searches_.end()) return hit->second;
-  const auto found = text_.rfind(marker, from);
+  const auto found = forward ? text_.find(marker, from) : text_.rfind(marker, from);
   searches_.emplace(key, found);
   return found;
 }
@@ -238,7 +230,7 @@ Frame::Next Frame::Step() {
     const std::string d = Depth(line, p + 6);
     const std::string condition = line.size() > p + 9 ? line.substr(p + 9) : std::string();
     if (EvaluateCondition(in_, condition, conditions_, flag_) == "TRUE") return Next::Line;
-    const auto loop = FindFrom("Loop[" + d + "]", lineStart_);
+    const auto loop = Search("Loop[" + d + "]", lineStart_, Direction::Forward);
     if (loop != std::string::npos) {
       pc_ = NumberOfLineAt(loop);
       return Next::Line;
@@ -246,7 +238,7 @@ Frame::Next Frame::Step() {
   }
   if (const auto p = form.loopAt; p != npos) {
     const std::string d = Depth(line, p + 5);
-    const auto loopStart = lineStart_ == 0 ? npos : FindBackFrom("While[" + d + "]", lineStart_ - 1);
+    const auto loopStart = lineStart_ == 0 ? npos : Search("While[" + d + "]", lineStart_ - 1, Direction::Backward);
     if (loopStart != std::string::npos) {
       JumpToLineAt(loopStart);
       return Next::Jumped;
@@ -264,8 +256,8 @@ Frame::Next Frame::Step() {
     ifState = EvaluateCondition(in_, condition, conditions_, flag_);
     if (Contains(line, "MouseClick")) in_.Variables().SetVariable("MouseClick", std::string("FALSE"), false);
     if (ifState == "TRUE") return Next::Line;
-    const auto endIf = FindFrom("EndIf[" + d + "]", lineStart_);
-    const auto elseAt = FindFrom("Else[" + d + "]", lineStart_);
+    const auto endIf = Search("EndIf[" + d + "]", lineStart_, Direction::Forward);
+    const auto elseAt = Search("Else[" + d + "]", lineStart_, Direction::Forward);
     if (endIf != std::string::npos) {
       const int e = NumberOfLineAt(endIf);
       const int x = elseAt == std::string::npos ? -1 : NumberOfLineAt(elseAt);
@@ -282,7 +274,7 @@ Frame::Next Frame::Step() {
     const std::string d = Depth(line, p + 5);
     std::string& ifState = IfState(d);
     if (ifState == "FALSE") return Next::Line;
-    const auto endIf = FindFrom("EndIf[" + d + "]", lineStart_);
+    const auto endIf = Search("EndIf[" + d + "]", lineStart_, Direction::Forward);
     if (endIf != std::string::npos) {
       pc_ = NumberOfLineAt(endIf);
       ifState.clear();
