@@ -26,3 +26,15 @@ add_test(NAME e2e.concurrent_records
   COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/concurrency/two_writers.sh
     $<TARGET_FILE:tamrix-pack> $<TARGET_FILE:tamrix-db> ${CMAKE_CURRENT_BINARY_DIR}/e2e/concurrent_records)
 set_tests_properties(e2e.concurrent_records PROPERTIES TIMEOUT 120)
+
+# The examples on a real X display, where xvfb-run is installed.
+find_program(TAMRIX_XVFB_RUN xvfb-run)
+if(TAMRIX_XVFB_RUN)
+  foreach(example IN ITEMS draw buttons)
+    add_test(NAME examples_on_xvfb.${example}
+      COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/run_example_on_xvfb.sh
+        $<TARGET_FILE:tamrix-pack> $<TARGET_FILE:tamrix_snapshot_pixels> ${example}
+        ${CMAKE_CURRENT_BINARY_DIR}/examples/${example})
+    set_tests_properties(examples_on_xvfb.${example} PROPERTIES TIMEOUT 90)
+  endforeach()
+endif()
