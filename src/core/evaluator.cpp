@@ -1,5 +1,7 @@
 #include "core/evaluator.h"
 
+#include <numeric>
+
 #include "core/calculate.h"
 #include "core/call_search_cache.h"
 #include "core/fault.h"
@@ -19,8 +21,9 @@ enum class Search { Found, NoCall, Unmatched };
 // be matched, the stop box.
 template <typename Names, typename OnFound>
 Search FindCall(Interpreter& interpreter, std::string_view text, const Names& names,
-                const std::string& errorWord, CallRecord& call, OnFound onFound) {
-  for (std::size_t n = 0; n < names.size(); ++n) {
+                const std::vector<std::size_t>& order, const std::string& errorWord, CallRecord& call,
+                OnFound onFound) {
+  for (const std::size_t n : order) {
     const std::string& name = names[n];
     if (name.empty()) continue;
     const auto p = text.find(name);
@@ -50,12 +53,14 @@ Search FindCall(Interpreter& interpreter, std::string_view text, const Names& na
   return Search::NoCall;
 }
 
-// FindCall through a cache of the texts known to hold no call.
-template <typename Names, typename OnFound>
+// FindCall through a cache of the texts known to hold no call; `order`
+// gives the places of the names worth trying, in list order.
+template <typename Names, typename Order, typename OnFound>
 bool FindCallCached(Interpreter& interpreter, CallSearchCache& cache, std::string_view text,
-                    const Names& names, const std::string& errorWord, CallRecord& call, OnFound onFound) {
+                    const Names& names, Order order, const std::string& errorWord, CallRecord& call,
+                    OnFound onFound) {
   if (cache.KnownWithoutCall(text)) return false;
-  const Search result = FindCall(interpreter, text, names, errorWord, call, onFound);
+  const Search result = FindCall(interpreter, text, names, order(), errorWord, call, onFound);
   if (result == Search::NoCall) cache.RememberWithoutCall(text);
   return result == Search::Found;
 }
@@ -129,8 +134,9 @@ bool FindCommandCall(Interpreter& interpreter, std::string_view expr, CallRecord
   const std::string text = Trim(expr);
   if (StartsWith(text, "\"") && EndsWith(text, "\"")) return false;
   call = CallRecord();
-  return FindCallCached(interpreter, interpreter.CommandCallCache(), text, KeywordList(), "Error in command ",
-                        call, [](std::size_t) {});
+  return FindCallCached(
+      interpreter, interpreter.CommandCallCache(), text, KeywordList(), [&] { return KeywordCandidates(text); },
+      "Error in command ", call, [](std::size_t) {});
 }
 
 bool FindFunctionCall(Interpreter& interpreter, std::string_view expr, CallRecord& call,
@@ -140,8 +146,13 @@ bool FindFunctionCall(Interpreter& interpreter, std::string_view expr, CallRecor
   const std::string text = Trim(expr);
   call = CallRecord();
   Procedures& procs = interpreter.Procs();
-  return FindCallCached(interpreter, procs.FunctionCallCache(), text, procs.FunctionNames(), "Error in function ",
-                        call, [&](std::size_t n) { returnType = procs.FunctionReturns()[n]; });
+  const auto everyName = [&] {
+    std::vector<std::size_t> order(procs.FunctionNames().size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    return order;
+  };
+  return FindCallCached(interpreter, procs.FunctionCallCache(), text, procs.FunctionNames(), everyName,
+                        "Error in function ", call, [&](std::size_t n) { returnType = procs.FunctionReturns()[n]; });
 }
 
 void ExecuteCommandCall(Interpreter& interpreter, std::string& expr, const CallRecord& call,

@@ -1,5 +1,8 @@
 #include "core/keywords.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <unordered_map>
 #include <unordered_set>
 
 #include "core/text.h"
@@ -49,7 +52,34 @@ const std::unordered_set<std::string>& UpperKeywords() {
   return words;
 }
 
+std::uint16_t PairOf(char a, char b) {
+  return static_cast<std::uint16_t>(static_cast<unsigned char>(a) << 8 | static_cast<unsigned char>(b));
+}
+
+// Keyword places by their first two characters.
+const std::unordered_map<std::uint16_t, std::vector<std::size_t>>& KeywordsByPair() {
+  static const auto byPair = [] {
+    std::unordered_map<std::uint16_t, std::vector<std::size_t>> map;
+    const auto& list = KeywordList();
+    for (std::size_t i = 0; i < list.size(); ++i) map[PairOf(list[i][0], list[i][1])].push_back(i);
+    return map;
+  }();
+  return byPair;
+}
+
 }  // namespace
+
+std::vector<std::size_t> KeywordCandidates(std::string_view text) {
+  const auto& byPair = KeywordsByPair();
+  std::vector<std::size_t> candidates;
+  for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+    const auto hit = byPair.find(PairOf(text[i], text[i + 1]));
+    if (hit != byPair.end()) candidates.insert(candidates.end(), hit->second.begin(), hit->second.end());
+  }
+  std::sort(candidates.begin(), candidates.end());
+  candidates.erase(std::unique(candidates.begin(), candidates.end()), candidates.end());
+  return candidates;
+}
 
 const std::vector<std::string>& KeywordList() {
   static const std::vector<std::string> list = SplitList(kKeywords);

@@ -48,9 +48,20 @@ std::string VariableStore::RecordName(std::string_view name) {
   return Trim(upper);
 }
 
-void VariableStore::RebuildIndex(Table& table) {
-  table.index.clear();
-  for (std::size_t i = 0; i < table.records.size(); ++i) table.index.emplace(table.records[i].name, i);
+void VariableStore::ForgetRecord(Table& table, std::size_t at) {
+  const std::string name = table.records[at].name;
+  table.records.erase(table.records.begin() + static_cast<std::ptrdiff_t>(at));
+  table.index.erase(name);
+  for (auto& entry : table.index) {
+    if (entry.second > at) --entry.second;
+  }
+  // A later record under the same (cut) name is now the first of that name.
+  for (std::size_t i = at; i < table.records.size(); ++i) {
+    if (table.records[i].name == name) {
+      table.index.emplace(name, i);
+      break;
+    }
+  }
 }
 
 int VariableStore::SlotCount(VarType type) const {
@@ -240,9 +251,8 @@ void VariableStore::RemoveVariable(std::string_view name, bool complain) {
     const std::size_t at = hit->second;
     const int first = table.records[at].first;
     const int size = table.records[at].size;
-    table.records.erase(table.records.begin() + static_cast<std::ptrdiff_t>(at));
+    ForgetRecord(table, at);
     for (std::size_t i = at; i < table.records.size(); ++i) table.records[i].first -= size;
-    RebuildIndex(table);
     // Values above the variable move down; the slot above the last is cleared.
     const auto eraseRange = [&](auto& values) {
       const auto begin = values.begin() + first;

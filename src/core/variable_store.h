@@ -68,7 +68,8 @@ class VariableStore {
 
   static std::size_t Index(VarType type) { return static_cast<std::size_t>(type); }
   static std::string RecordName(std::string_view name);
-  void RebuildIndex(Table& table);
+  // Drops record `at`, keeping the index of first records by name.
+  static void ForgetRecord(Table& table, std::size_t at);
   void ResizeValues(VarType type, int slots);
   int SlotCount(VarType type) const;
   Value ReadSlot(VarType type, int slot) const;

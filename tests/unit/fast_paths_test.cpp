@@ -10,6 +10,7 @@
 #include <random>
 
 #include "core/call_search_cache.h"
+#include "core/keywords.h"
 #include "core/numbers.h"
 #include "core/procedures.h"
 #include "core_sandbox.h"
@@ -134,6 +135,52 @@ TEST(RepeatedLines, LiteralHoldingTheNextTagIsTakenForTheLine) {
   EXPECT_EQ(run.Written(), std::vector<std::string>{"end"});
   const std::string unknownWord = QueryBoxLine("Editor: 0 Line: 3\\r\\nError: variable undeclared: ");
   EXPECT_EQ(run.Boxes(), (std::vector<std::string>{unknownWord, unknownWord}));
+}
+
+}  // namespace
+}  // namespace tamrix::testing
+
+namespace tamrix::testing {
+namespace {
+
+// The first keyword, in list order, whose first occurrence in the text is
+// followed by "(" or a blank: the plain search over the whole list.
+int PlainFirstKeyword(const std::string& text) {
+  const auto& list = KeywordList();
+  for (std::size_t n = 0; n < list.size(); ++n) {
+    const auto p = text.find(list[n]);
+    if (p == std::string::npos) continue;
+    const auto behind = p + list[n].size();
+    if (behind < text.size() && (text[behind] == '(' || text[behind] == ' ')) return static_cast<int>(n);
+  }
+  return -1;
+}
+
+int FirstCandidateKeyword(const std::string& text) {
+  const auto& list = KeywordList();
+  for (const std::size_t n : KeywordCandidates(text)) {
+    const auto p = text.find(list[n]);
+    if (p == std::string::npos) continue;
+    const auto behind = p + list[n].size();
+    if (behind < text.size() && (text[behind] == '(' || text[behind] == ' ')) return static_cast<int>(n);
+  }
+  return -1;
+}
+
+TEST(KeywordCandidatesTest, FindTheSameKeywordAsTheWholeList) {
+  // Texts glued from pieces of keywords, names and signs, so that keywords
+  // overlap, stand inside names and are followed by all sorts of things.
+  const std::vector<std::string> pieces = {"Int", "MyInt", "(", ")", " ", "Str", "Len", "SubStr", "x", "+",
+                                           "Write", "Rep.", "TestEndPage", "Time", "Timer", "Dat", "e", "RGB",
+                                           "\"", "Trim", "Tr", "Sub", "Format", "Var", "iable", "Cos", ","};
+  std::mt19937 random(11);
+  std::uniform_int_distribution<std::size_t> pick(0, pieces.size() - 1);
+  std::uniform_int_distribution<int> length(1, 9);
+  for (int i = 0; i < 20000; ++i) {
+    std::string text;
+    for (int k = length(random); k > 0; --k) text += pieces[pick(random)];
+    ASSERT_EQ(FirstCandidateKeyword(text), PlainFirstKeyword(text)) << text;
+  }
 }
 
 }  // namespace
