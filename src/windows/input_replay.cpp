@@ -16,6 +16,9 @@ namespace tamrix {
 namespace {
 
 constexpr int kActionMilliseconds = 20;
+// How long an action waits for its object or window to appear: a script may
+// run ahead of a program that is slow to build its windows.
+constexpr qint64 kPatienceMilliseconds = 5000;
 
 Qt::MouseButton QtButton(int button) { return button == kRightButton ? Qt::RightButton : Qt::LeftButton; }
 
@@ -82,6 +85,11 @@ void InputReplay::Tick() {
     timer_.stop();
     return;
   }
+  if (!TargetExists(pending_.front())) {
+    if (waitingSince_ < 0) waitingSince_ = clock_.elapsed();
+    if (clock_.elapsed() - waitingSince_ < kPatienceMilliseconds) return;
+  }
+  waitingSince_ = -1;
   const InputAction action = pending_.front();
   pending_.pop_front();
   if (action.kind == InputAction::Kind::Sleep) {
@@ -92,6 +100,19 @@ void InputReplay::Tick() {
   // click that the program answers with a nested wait does.
   timer_.start();
   desktop_.Relay().Run([&] { Perform(action); });
+}
+
+bool InputReplay::TargetExists(const InputAction& action) const {
+  const std::string name = Utf8ToCp1252Lossy(action.target);
+  switch (action.kind) {
+    case InputAction::Kind::Click:
+    case InputAction::Kind::DoubleClick:
+    case InputAction::Kind::Focus: return desktop_.ObjectWidget(name) != nullptr;
+    case InputAction::Kind::ClickAt:
+    case InputAction::Kind::Mouse:
+    case InputAction::Kind::Close: return desktop_.WindowWidget(name) != nullptr;
+    default: return true;
+  }
 }
 
 void InputReplay::Perform(const InputAction& action) {

@@ -25,6 +25,7 @@ class InputReplay {
 
  private:
   void Tick();
+  bool TargetExists(const InputAction& action) const;
   void Perform(const InputAction& action);
   void Click(QWidget& widget, QPoint at, bool doubleClick);
   void PressKey(int qtKey, Qt::KeyboardModifiers modifiers, const QString& text);
@@ -37,6 +38,7 @@ class InputReplay {
   QTimer timer_;
   QElapsedTimer clock_;
   qint64 nextAt_ = 0;
+  qint64 waitingSince_ = -1;  // when the front action began to wait for its target
 };
 
 // The actions of the file named by TAMRIX_INPUT; lines that are no action
