@@ -1,11 +1,13 @@
-// A program run for fuzzing: a statement budget ends runaway loops, and a
-// desktop that gives up after many pumps ends the waits that never return.
+// A program run for fuzzing: a statement budget ends runaway loops, a
+// desktop that gives up after many pumps ends the waits that never return,
+// and a text limit of a megabyte makes texts that double fail fast.
 #pragma once
 
 #include <functional>
 #include <string>
 
 #include "core/fault.h"
+#include "core/value.h"
 #include "headless_desktop.h"
 
 namespace tamrix::fuzzing {
@@ -16,8 +18,10 @@ class LimitedRun : public testing::ProgramRun {
  public:
   static constexpr long kStatements = 20000;
   static constexpr int kPumps = 2000;
+  static constexpr std::size_t kTextBytes = std::size_t{1} << 20;
 
   LimitedRun() {
+    SetTextLimit(kTextBytes);
     interpreter.State().statementBudget = kStatements;
     desktop.onPump = [this] {
       if (desktop.pumps > kPumps) throw WaitedTooLong{};

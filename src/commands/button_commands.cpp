@@ -44,7 +44,7 @@ bool LoadNewPicture(Interpreter& in, ButtonControl& button, const std::string& t
   std::string resolved;
   const PictureSource source = SourceOf(in, text, resolved);
   if (!source.Empty() && source.builtIn < 0 && resolved.empty()) {
-    ObjectErrorBox(in, missing);
+    CommandErrorBox(in, kCarriageReturn, missing);
     return false;
   }
   button.SetPicture(source);
@@ -167,7 +167,7 @@ Value ButtonStyle(CommandCall& call) {
 
 void RegisterButtonCommands(Dispatcher& dispatcher) {
   dispatcher.Register("Button", GuardForm::None, ObjectCommandHandler(kButtonCommand));
-  dispatcher.Register("ButtonStyle", GuardForm::None, GuardedObjectHandler("ButtonStyle", ButtonStyle));
+  dispatcher.Register("ButtonStyle", GuardForm::None, GuardedHandler("ButtonStyle", kCarriageReturn, ButtonStyle));
 }
 
 }  // namespace tamrix

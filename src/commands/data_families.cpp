@@ -1,7 +1,6 @@
 #include "commands/data_families.h"
 
 #include "commands/command_families.h"
-#include "commands/data_messages.h"
 #include "core/interpreter.h"
 #include "data/data_state.h"
 #include "data/database_block.h"
@@ -11,7 +10,7 @@ namespace tamrix {
 void RegisterDataHandler(Dispatcher& dispatcher, std::string_view name, std::shared_ptr<DataState> state,
                          DataHandler handler, Guard guard) {
   CommandHandler bound = [state = std::move(state), handler](CommandCall& call) { return handler(call, *state); };
-  if (guard == Guard::FailureMessage) bound = WithFailureMessage(std::string(name), std::move(bound));
+  if (guard == Guard::FailureMessage) bound = GuardedHandler(std::string(name), kCarriageReturn, std::move(bound));
   dispatcher.Register(name, GuardForm::None, std::move(bound));
 }
 

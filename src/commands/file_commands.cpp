@@ -4,7 +4,7 @@
 
 #include "commands/command_arguments.h"
 #include "commands/data_families.h"
-#include "commands/data_messages.h"
+#include "core/dispatcher.h"
 #include "core/fault.h"
 #include "core/interpreter.h"
 #include "core/numbers.h"
@@ -21,7 +21,9 @@ namespace {
 AliasRow* FindAlias(CommandCall& call, DataState& state, CommandArguments& args, const char* command) {
   const std::string alias = args.Text(0);
   AliasRow* row = state.aliases.Find(alias);
-  if (row == nullptr) RunTimeMessage(call.interpreter, std::string(command) + " - Alias file not found: " + Upper(alias));
+  if (row == nullptr) {
+    CommandErrorBox(call.interpreter, kCarriageReturn, std::string(command) + " - Alias file not found: " + Upper(alias));
+  }
   return row;
 }
 

@@ -21,7 +21,7 @@ CommandHandler Guarded(const LibraryCommand& command) {
       return command.handler(call);
     } catch (const RuntimeFault& fault) {
       Interpreter& in = call.interpreter;
-      in.QueryBox(in.State().errorPosition + "\r" + FailureText(command, fault));
+      CommandErrorBox(in, kCarriageReturn, FailureText(command, fault));
       if (command.failure == FailureResult::Zero) return std::int32_t{0};
       return std::string();
     }

@@ -53,24 +53,9 @@ ObjectEntry& ObjectCall::Entry() const {
 
 ObjectControl& ObjectCall::Control() const { return *Entry().control; }
 
-void ObjectErrorBox(Interpreter& in, const std::string& words) {
-  in.QueryBox(in.State().errorPosition + "\r" + words);
-}
-
-CommandHandler GuardedObjectHandler(std::string name, CommandHandler handler) {
-  return [name = std::move(name), handler = std::move(handler)](CommandCall& call) -> Value {
-    try {
-      return handler(call);
-    } catch (const RuntimeFault& fault) {
-      ObjectErrorBox(call.interpreter, "Error in command " + name + ": " + fault.Description());
-      return std::string();
-    }
-  };
-}
-
 CommandHandler ObjectCommandHandler(const ObjectCommand& command) {
-  return GuardedObjectHandler(std::string(Traits(command.kind).name),
-                              [&command](CommandCall& call) { return RunObjectCommand(call, command); });
+  return GuardedHandler(std::string(Traits(command.kind).name), kCarriageReturn,
+                        [&command](CommandCall& call) { return RunObjectCommand(call, command); });
 }
 
 std::string PropertyName(std::string_view element0) {

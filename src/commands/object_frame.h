@@ -51,15 +51,8 @@ struct ObjectCommand {
 };
 
 // The dispatcher's handler for a kind: the create or property path, and any
-// fault shown in the frame's error box.
+// fault shown in the error box of the object commands (position, CR, words).
 CommandHandler ObjectCommandHandler(const ObjectCommand& command);
-// The same error box around a command of the object family that is no kind
-// of its own (ButtonStyle).
-CommandHandler GuardedObjectHandler(std::string name, CommandHandler handler);
-
-// The error box of the object commands: the source location, CR, `words`.
-// OK goes on, Cancel sets the stop flag.
-void ObjectErrorBox(Interpreter& interpreter, const std::string& words);
 
 // The upper-cased text from the first "." to the first blank, dot included.
 std::string PropertyName(std::string_view element0);

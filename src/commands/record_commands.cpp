@@ -4,8 +4,8 @@
 // the system in them ends the program.
 #include "commands/command_arguments.h"
 #include "commands/data_families.h"
-#include "commands/data_messages.h"
 #include "commands/record_values.h"
+#include "core/dispatcher.h"
 #include "core/fault.h"
 #include "core/interpreter.h"
 #include "core/numbers.h"
@@ -81,7 +81,7 @@ Value OpenDB(CommandCall& call, DataState& state) {
   DatabaseSlot& db = state.databases.Slot(slot);
   const std::string fileName = db.path + name + ".Zrf";
   if (!FileExists(fileName)) {
-    RunTimeMessage(in, "Error in function OpenDB - File not found: " + fileName);
+    CommandErrorBox(in, kCarriageReturn, "Error in function OpenDB - File not found: " + fileName);
     return std::string();
   }
   const int number = state.files.FreeNumber();
@@ -90,7 +90,7 @@ Value OpenDB(CommandCall& call, DataState& state) {
   header.resize(zrf::kHeaderSize, ' ');
   const std::string password = args.Text(1);
   if (StrippedAreaText(header, zrf::kPassword) != password) {
-    RunTimeMessage(in, "Error connecting do database '" + db.name + "': Invalid password!");
+    CommandErrorBox(in, kCarriageReturn, "Error connecting do database '" + db.name + "': Invalid password!");
     state.files.Close(number);
   }
   return std::string();
@@ -130,7 +130,7 @@ Value UpdateRecord(CommandCall& call, DataState& state) {
   const std::string record = RecordFromVariables(in, db, "UpdateRecord", [position] { return position; });
   const std::int32_t count = CountOfHead(WaitForLock(call, state, db, false));
   if (position < 0 || position > count) {
-    RunTimeMessage(in, "Can't update record: invalid position!");
+    CommandErrorBox(in, kCarriageReturn, "Can't update record: invalid position!");
     return std::string();
   }
   std::int32_t place = position;
@@ -154,7 +154,7 @@ Value DeleteRecord(CommandCall& call, DataState& state) {
   if (!db.fields.empty()) PutField(record, db.fields[0], ScrambleValue(zrf::kDeletedMark));
   const std::int32_t count = CountOfHead(WaitForLock(call, state, db, false));
   if (position < 0 || position > count) {
-    RunTimeMessage(in, "Can't delete record: invalid position!");
+    CommandErrorBox(in, kCarriageReturn, "Can't delete record: invalid position!");
     return std::string();
   }
   std::int32_t place = position;
@@ -177,7 +177,7 @@ Value ReadRecord(CommandCall& call, DataState& state) {
   WriteHead(FileOf(state, db), head);
   const std::int32_t position = PositionArgument(args);
   if (position < 0 || position >= count) {
-    RunTimeMessage(in, "Can't read record: invalid position!");
+    CommandErrorBox(in, kCarriageReturn, "Can't read record: invalid position!");
     return std::string();
   }
   std::int32_t place = position;
@@ -188,7 +188,7 @@ Value ReadRecord(CommandCall& call, DataState& state) {
       place = PlaceOf(entry);
     } catch (const RuntimeFault&) {
       const std::string number = entry.size() > 6 ? entry.substr(entry.size() - 6) : entry;
-      RunTimeMessage(in, "Invalid position:" + number +
+      CommandErrorBox(in, kCarriageReturn, "Invalid position:" + number +
                              "\rPositions range from 0 to the total records in the file minus 1.");
       return std::string();
     }
@@ -270,7 +270,7 @@ Value FindDB(CommandCall& call, DataState& state) {
     std::string value = args.Text(i);
     const std::string& keyField = KeyField(order, i - 2);
     if (keyField.empty()) {
-      RunTimeMessage(in, "Error in command FindDB!\rMake sure you set the order of the database with the command OrderDB!");
+      CommandErrorBox(in, kCarriageReturn, "Error in command FindDB!\rMake sure you set the order of the database with the command OrderDB!");
       return 0;
     }
     // The width of a key field that the database lacks is read at field -1.

@@ -1,6 +1,6 @@
 #include "commands/record_values.h"
 
-#include "commands/data_messages.h"
+#include "core/dispatcher.h"
 #include "core/interpreter.h"
 #include "core/numbers.h"
 #include "data/database_table.h"
@@ -17,7 +17,7 @@ std::string RecordFromVariables(Interpreter& interpreter, const DatabaseSlot& sl
     if (field.type == "String") {
       bytes = TextOf(variables.GetVariable(field.fullName));
       if (static_cast<long>(bytes.size()) > field.width - static_cast<long>(kScrambleOverhead)) {
-        RunTimeMessage(interpreter, std::string(command) + ": The size of the field '" + field.fullName +
+        CommandErrorBox(interpreter, kCarriageReturn, std::string(command) + ": The size of the field '" + field.fullName +
                                         "'\ris smaller than the data size allocated to the field!");
         continue;
       }

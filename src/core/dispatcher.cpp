@@ -43,10 +43,25 @@ Value Dispatcher::RunGuarded(Interpreter& interpreter, const Entry& entry, Comma
   try {
     return entry.handler(call);
   } catch (const RuntimeFault& fault) {
-    interpreter.QueryBox(interpreter.State().errorPosition + "\r\n" + GuardText(entry.guard, entry.name) +
-                         fault.Description());
+    CommandErrorBox(interpreter, kLineBreak, GuardText(entry.guard, entry.name) + fault.Description());
     return std::string();
   }
+}
+
+bool CommandErrorBox(Interpreter& interpreter, std::string_view separator, const std::string& words) {
+  return interpreter.QueryBox(interpreter.State().errorPosition + std::string(separator) + words);
+}
+
+CommandHandler GuardedHandler(const std::string& name, std::string_view separator, CommandHandler handler) {
+  return [prefix = GuardText(GuardForm::Command, name), separator,
+          handler = std::move(handler)](CommandCall& call) -> Value {
+    try {
+      return handler(call);
+    } catch (const RuntimeFault& fault) {
+      CommandErrorBox(call.interpreter, separator, prefix + fault.Description());
+      return std::string();
+    }
+  };
 }
 
 Value Dispatcher::RunCommand(Interpreter& interpreter, std::string_view word, std::string& arguments) {

@@ -64,6 +64,21 @@ class Dispatcher {
   std::vector<PrefixEntry> prefixes_;
 };
 
+// The separators between the error position and the words of a command's
+// error box: the language's own handlers use a line break, the object, data
+// and library families a single carriage return.
+inline constexpr std::string_view kLineBreak = "\r\n";
+inline constexpr std::string_view kCarriageReturn = "\r";
+
+// The Command Error Box: OK and Cancel, the error position, `separator` and
+// `words`; Cancel stops the run at its next statement. True for OK.
+bool CommandErrorBox(Interpreter& interpreter, std::string_view separator, const std::string& words);
+
+// `handler` behind a guard of its own: a fault shows the Command Error Box
+// with "Error in command <name>: " and the fault's description, and the
+// result is empty.
+CommandHandler GuardedHandler(const std::string& name, std::string_view separator, CommandHandler handler);
+
 // The argument splitter shared by every handler: parts at commas outside
 // string literals, optionally "=" as a part of its own. `capacity` is the
 // size of the caller's array; one part more is a subscript fault.

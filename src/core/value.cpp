@@ -6,10 +6,17 @@
 #include "core/numbers.h"
 
 namespace tamrix {
+namespace {
+
+std::size_t textLimit = kMaxTextBytes;
+
+}  // namespace
 
 void CheckTextSize(std::size_t bytes) {
-  if (bytes > kMaxTextBytes) Throw(kOutOfMemory);
+  if (bytes > textLimit) Throw(kOutOfMemory);
 }
+
+void SetTextLimit(std::size_t bytes) { textLimit = bytes; }
 
 std::string TextOf(const Value& v) {
   if (const auto* text = std::get_if<std::string>(&v)) return *text;

@@ -18,6 +18,9 @@ inline bool IsText(const Value& v) { return std::holds_alternative<std::string>(
 inline constexpr std::size_t kMaxTextBytes = std::size_t{512} * 1024 * 1024;
 // Faults with "Out of memory" when a text grows past the limit.
 void CheckTextSize(std::size_t bytes);
+// Lowers the limit for the whole process; only tests and fuzzing do, as a
+// text that doubles takes seconds and gigabytes to reach the full limit.
+void SetTextLimit(std::size_t bytes);
 
 // The ordinary text form: integers in decimal, floats with up to 15
 // significant digits and the regional decimal sign.
