@@ -1,6 +1,6 @@
 // A program run for fuzzing: a statement budget ends runaway loops, a
 // desktop that gives up after many pumps ends the waits that never return,
-// and a text limit of a megabyte makes texts that double fail fast.
+// and a text limit of 64 KB makes texts that keep growing fail fast.
 #pragma once
 
 #include <functional>
@@ -18,7 +18,7 @@ class LimitedRun : public testing::ProgramRun {
  public:
   static constexpr long kStatements = 20000;
   static constexpr int kPumps = 2000;
-  static constexpr std::size_t kTextBytes = std::size_t{1} << 20;
+  static constexpr std::size_t kTextBytes = std::size_t{1} << 16;
 
   LimitedRun() {
     SetTextLimit(kTextBytes);

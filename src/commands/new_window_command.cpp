@@ -184,7 +184,8 @@ void ChangeWindow(Interpreter& in, CommandArguments& args) {
   const auto blank = element.find(' ', dot);
   const std::string property = Upper(element.substr(dot, blank == std::string::npos ? npos : blank - dot));
   const int slot = in.Windows().Find(name);
-  if (slot < 0) return;
+  // An empty name matches a free slot, which holds no window.
+  if (slot < 0 || in.Windows().Window(slot) == nullptr) return;
   WindowProperty target{in, args, slot, name, *in.Windows().Window(slot)};
   for (const PropertyEntry& entry : kProperties) {
     if (property != entry.word) continue;

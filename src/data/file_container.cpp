@@ -35,7 +35,13 @@ std::string ReadDirectory(DataFile& container) {
   return directory;
 }
 
-std::int64_t WholeNumber(std::string_view text) { return static_cast<std::int64_t>(Val(text)); }
+// A directory's numbers may be any text: one that no 64-bit whole number
+// holds is the overflow fault.
+std::int64_t WholeNumber(std::string_view text) {
+  const double value = Val(text);
+  if (!(value >= -0x1p63 && value < 0x1p63)) Throw(kOverflow);
+  return static_cast<std::int64_t>(value);
+}
 
 }  // namespace
 
@@ -67,7 +73,10 @@ void InsertIntoContainer(FileNumbers& files, std::string_view name, const std::s
     // The walk has no end of its own: past a full directory it runs on
     // until its 16-bit position overflows.
     if (free == kEntries) Throw(kOverflow);
-    entry.position = last.position + last.size + 1;
+    if (__builtin_add_overflow(last.position, last.size, &entry.position) ||
+        __builtin_add_overflow(entry.position, 1, &entry.position)) {
+      Throw(kOverflow);
+    }
   }
   directory.replace(free * kContainerEntrySize, kContainerEntrySize, ContainerEntryBytes(entry));
   store.WriteAt(0, directory);
@@ -89,8 +98,8 @@ bool ExtractFromContainer(FileNumbers& files, std::string_view name, const std::
     if (Upper(Trim(entry.name)) != wanted) continue;
     // A directory that promises more than the container holds gives what is there.
     const auto stored = static_cast<std::int64_t>(store.Size());
-    const std::int64_t length = std::min(entry.size, stored - (entry.position - 1));
-    if (entry.position > 0 && length > 0) {
+    const std::int64_t length = entry.position > 0 ? std::min(entry.size, stored - (entry.position - 1)) : 0;
+    if (length > 0) {
       output.WriteAt(0, store.ReadAt(static_cast<std::uint64_t>(entry.position - 1),
                                      static_cast<std::size_t>(length)));
     }

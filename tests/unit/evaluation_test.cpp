@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "core/evaluator.h"
+#include "core/fault.h"
+#include "core/value.h"
 #include "core_sandbox.h"
 
 namespace tamrix {
@@ -161,6 +163,20 @@ TEST(RewritingTest, ATextCallOnAVariableLosesTheRestButKeepsOneCharacter) {
   box.Set("s", std::string("hi"));
   EXPECT_EQ(box.EvalText("Write(s)!rest"), Value(std::string("True!")));
   EXPECT_EQ(box.Written(), Texts{"hi"});
+}
+
+TEST(RewritingTest, ATextThatDoublesWithEveryRewriteEndsInTheMemoryFault) {
+  // The arguments are found again in front of the call, so the text behind
+  // them comes back a second time with every rewrite.
+  SetTextLimit(4096);
+  Sandbox box;
+  try {
+    box.Eval("(Y) Write(Y)");
+    ADD_FAILURE() << "the text grew without a fault";
+  } catch (const RuntimeFault& fault) {
+    EXPECT_EQ(fault.Number(), kOutOfMemory);
+  }
+  SetTextLimit(kMaxTextBytes);
 }
 
 TEST(FindCallTest, TakesTheFirstKeywordOfTheListWithItsTaggedArguments) {

@@ -164,6 +164,24 @@ TEST_F(FileProgramTest, AFullContainerDirectoryOverflows) {
   EXPECT_EQ(Messages(), (std::vector<std::string>{"Error in command InsertFile: Overflow"}));
 }
 
+TEST_F(FileProgramTest, ContainerNumbersBeyondSixtyFourBitsOverflow) {
+  // Directory texts as a damaged container may hold them.
+  const auto entry = [](const std::string& name, const std::string& size, const std::string& position) {
+    return name + std::string(25 - name.size(), ' ') + size + std::string(10 - size.size(), ' ') + position +
+           std::string(15 - position.size(), ' ');
+  };
+  WriteBytes(In("one.txt"), "x");
+  WriteBytes(In("far.dat"), entry("far", "9e18", "9e18"));
+  Run({"p = ProgramDir & \"/far.dat\"", "InsertFile \"One\", \"one.txt\", p"});
+  EXPECT_EQ(Messages(), (std::vector<std::string>{"Error in command InsertFile: Overflow"}));
+  WriteBytes(In("huge.dat"), entry("huge", "1e300", "15001"));
+  WriteBytes(In("before.dat"), entry("before", "1", "-9.3e18"));
+  for (const std::string name : {"huge", "before"}) {
+    Run({"r = ProgramDir & \"/out\"", "ExtractFile \"" + name + "\", r, \"" + name + ".dat\""});
+    EXPECT_EQ(Messages(), (std::vector<std::string>{"Error in command ExtractFile: Overflow"})) << name;
+  }
+}
+
 TEST_F(FileProgramTest, TheTextStoreFindsKeysByTheirBeginning) {
   Run({"SaveString \"color\", \"blue\"", "SaveString \"size\", \"\"", "SaveString \"color\", \"red\"",
        "r = GetString(\"color\")", "Write r", "r = GetString(\"col\")", "Write r", "r = GetString(\"size\")",

@@ -66,6 +66,14 @@ TEST(RecordFileCheckTest, DamageIsFoundAndNamed) {
       {"key byte", [](std::string& b) { b[19999 + 2 * kLength + 4] = ' '; }, "record 2, field Id: key byte outside"},
       {"value length", [](std::string& b) { b[19999 + 9] = 40; }, "record 0, field Nome: value runs past"},
       {"no end mark", [](std::string& b) { PutArea(b, zrf::FieldNameArea(2), "Extra"); }, "field list:"},
+      {"records of no bytes",
+       [](std::string& b) {
+         PutArea(b, zrf::kRecordLength, "0");
+         PutArea(b, zrf::FieldSizeArea(0), "-5");
+         PutArea(b, zrf::FieldSizeArea(1), "-5");
+         b.resize(zrf::kHeaderSize);
+       },
+       "records of 0 bytes: none of them can be read"},
   };
   TempFolder folder;
   for (const auto& damage : damages) {
@@ -75,6 +83,18 @@ TEST(RecordFileCheckTest, DamageIsFoundAndNamed) {
     ASSERT_FALSE(result.problems.empty()) << damage.name;
     EXPECT_EQ(result.problems[0].rfind(damage.problem, 0), 0u) << damage.name << ": " << result.problems[0];
   }
+}
+
+TEST(RecordFileCheckTest, TheListOfProblemsEndsAtAHundred) {
+  // The three records, then 57 of blanks whose two fields both fail.
+  std::string bytes = SoundFile();
+  PutCount(bytes, 60);
+  bytes.resize(19999 + 60 * kLength, ' ');
+  TempFolder folder;
+  const CheckResult result = Check(folder, bytes);
+  EXPECT_EQ(result.problems.size(), 100u);
+  ASSERT_EQ(result.notes.size(), 1u);
+  EXPECT_EQ(result.notes[0], "records from 53 on are not checked: 100 problems are listed");
 }
 
 TEST(RecordFileCheckTest, ValuesReadAsText) {

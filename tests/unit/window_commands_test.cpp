@@ -217,6 +217,14 @@ TEST(NewWindowTest, AnUnknownNameDoesNothingAndSaysNothing) {
   EXPECT_EQ(WindowNamed(run, "W").outer.height, 6200);
 }
 
+TEST(NewWindowTest, AnEmptyNameFindsAFreeSlotAndDoesNothing) {
+  ProgramRun run;
+  run.Run(Lines({"NewWindow SET, W", "NewWindow .SIZE = 1, 1", "NewWindow .USE", "Write \"on\""}));
+  EXPECT_TRUE(run.Boxes().empty());
+  EXPECT_EQ(WindowNamed(run, "W").outer.height, 6200);
+  EXPECT_EQ(WritesWithWindow(run), (Texts{"PARENT on"}));
+}
+
 TEST(NewWindowTest, PropertiesWorkOnTheFirstSlotOfTheNameInAnyCase) {
   ProgramRun run;
   run.Run(Lines({"NewWindow SET, \"Win\"", "NewWindow win.SIZE = 10, 20", "NewWindow WIN.POS = 1, CENTER",
