@@ -2,8 +2,8 @@
 
 #include <numeric>
 
-#include "core/calculate.h"
 #include "core/call_search_cache.h"
+#include "core/expression_plan.h"
 #include "core/fault.h"
 #include "core/interpreter.h"
 #include "core/keywords.h"
@@ -74,7 +74,19 @@ std::string RestBehind(const std::string& expr, const std::string& args, std::si
   return restStart < expr.size() ? expr.substr(restStart) : std::string();
 }
 
+// Texts the finders pass over without a search.
+bool CommandSearchSkips(std::string_view expr, std::string_view trimmed) {
+  return StartsWith(expr, "RetStr String") || (StartsWith(trimmed, "\"") && EndsWith(trimmed, "\""));
+}
+
+bool FunctionSearchSkips(std::string_view expr) { return StartsWith(expr, "\""); }
+
 }  // namespace
+
+bool HoldsNoCall(Interpreter& interpreter, const std::string& expr) {
+  return (CommandSearchSkips(expr, expr) || interpreter.CommandCallCache().KnownWithoutCall(expr)) &&
+         (FunctionSearchSkips(expr) || interpreter.Procs().FunctionCallCache().KnownWithoutCall(expr));
+}
 
 void RewriteGuard::Step(const std::string& expr) {
   constexpr int kMaxRewrites = 10000;
@@ -130,9 +142,8 @@ std::string StripTags(std::string_view text) {
 }
 
 bool FindCommandCall(Interpreter& interpreter, std::string_view expr, CallRecord& call) {
-  if (StartsWith(expr, "RetStr String")) return false;
   const std::string text = Trim(expr);
-  if (StartsWith(text, "\"") && EndsWith(text, "\"")) return false;
+  if (CommandSearchSkips(expr, text)) return false;
   call = CallRecord();
   return FindCallCached(
       interpreter, interpreter.CommandCallCache(), text, KeywordList(), [&] { return KeywordCandidates(text); },
@@ -142,7 +153,7 @@ bool FindCommandCall(Interpreter& interpreter, std::string_view expr, CallRecord
 bool FindFunctionCall(Interpreter& interpreter, std::string_view expr, CallRecord& call,
                       std::string& returnType) {
   returnType.clear();
-  if (StartsWith(expr, "\"")) return false;
+  if (FunctionSearchSkips(expr)) return false;
   const std::string text = Trim(expr);
   call = CallRecord();
   Procedures& procs = interpreter.Procs();
@@ -201,55 +212,36 @@ bool IsArithmetic(std::string_view expr) {
 }
 
 std::string ExpandVariables(Interpreter& interpreter, std::string_view expr, int& itemCount) {
-  itemCount = 0;
   std::string out;
-  out.reserve(expr.size() * 2);
-  for (std::size_t i = 0; i < expr.size();) {
-    if (!IsLetter(expr[i])) {
-      out += expr[i++];
-      ++itemCount;
-      continue;
-    }
-    std::size_t j = i;
-    while (j < expr.size() && expr[j] != '(') {
-      const char l = LowerChar(expr[j]);
-      if (!(IsDigit(l) || (l >= '_' && l <= 'z') || l == '.')) break;
-      ++j;
-    }
-    if (j < expr.size() && expr[j] == '(') {
-      const auto close = expr.find(')', j);
-      j = close == std::string_view::npos ? expr.size() : close + 1;
-    }
-    out += TextOf(interpreter.Variables().GetVariable(expr.substr(i, j - i)));
-    ++itemCount;
-    i = j;
+  for (const auto& piece : SplitFormula(expr, itemCount)) {
+    out += piece.isName ? TextOf(interpreter.Variables().GetVariable(piece.text)) : piece.text;
   }
   return out;
 }
 
 Value Evaluate(Interpreter& interpreter, std::string_view source, bool& numericFlag) {
+  ExpressionPlans& plans = interpreter.Procs().Plans();
+  if (const ExpressionPlan* plan = plans.Find(source)) return RunExpression(interpreter, *plan);
   std::string expr = Trim(StripTags(source));
+  bool rewritten = false;
   CallRecord call;
   RewriteGuard guard;
   while (FindCommandCall(interpreter, expr, call)) {
     if (IsNumericKeyword(Upper(call.name))) numericFlag = true;
     ExecuteCommandCall(interpreter, expr, call, numericFlag);
     guard.Step(expr);
+    rewritten = true;
   }
   std::string returnType;
   while (FindFunctionCall(interpreter, expr, call, returnType)) {
     ExecuteFunctionCall(interpreter, expr, call, returnType);
     guard.Step(expr);
+    rewritten = true;
   }
-  if (IsNumeric(expr)) return Val(expr);
-  if (IsArithmetic(expr)) {
-    int itemCount = 0;
-    const std::string expanded = ExpandVariables(interpreter, expr, itemCount);
-    if (itemCount == 1) return expanded;
-    return Val(ReplaceAll(Calculate(expanded).text, ",", "."));
+  if (!rewritten && plans.Keeps(source) && HoldsNoCall(interpreter, expr)) {
+    return RunExpression(interpreter, plans.Remember(source, ReadExpression(std::move(expr), true)));
   }
-  if (interpreter.Variables().VarIndex(expr) >= 0) return interpreter.Variables().GetVariable(expr);
-  return StripQuotes(expr);
+  return RunExpression(interpreter, ReadExpression(std::move(expr), false));
 }
 
 Value EvaluateText(Interpreter& interpreter, std::string_view source, bool& numericFlag) {

@@ -46,6 +46,11 @@ bool FindFunctionCall(Interpreter& interpreter, std::string_view expr, CallRecor
 void ExecuteFunctionCall(Interpreter& interpreter, std::string& expr, const CallRecord& call,
                          const std::string& returnType);
 
+// True when both finders are known to find no call in the trimmed `expr`,
+// having searched it before. A text whose brackets don't match is never
+// known: its box shows at each search.
+bool HoldsNoCall(Interpreter& interpreter, const std::string& expr);
+
 bool IsArithmetic(std::string_view expr);
 std::string ExpandVariables(Interpreter& interpreter, std::string_view expr, int& itemCount);
 

@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cstdlib>
+#include <optional>
 #include <unordered_map>
+#include <vector>
 
 #include "core/conditions.h"
 #include "core/dispatcher.h"
@@ -28,6 +30,35 @@ std::string LineTag(int pc) {
   return tag;
 }
 
+// "name += value" or "name -= value", with the blank before the sign put
+// in when the name is glued to it.
+struct CompoundForm {
+  char sign = 0;
+  std::string name;
+  std::string value;
+};
+
+std::optional<CompoundForm> ReadCompound(std::string line, char sign) {
+  const std::string glued = std::string(1, sign) + " = ";
+  if (const auto g = line.find(glued); g != std::string::npos && g > 0 && line[g - 1] != ' ') {
+    line.insert(g, " ");
+  }
+  const auto p = line.find(std::string(" ") + sign + " =");
+  if (p == std::string::npos) return std::nullopt;
+  const auto blank = p == 0 ? std::string::npos : line.rfind(' ', p - 1);
+  const auto nameStart = blank == std::string::npos ? 0 : blank + 1;
+  return CompoundForm{sign, line.substr(nameStart, p - nameStart),
+                      line.size() > p + 5 ? line.substr(p + 5) : std::string()};
+}
+
+// The name counted by "name++" or "name--": the last word before the sign;
+// blanks between them are passed over, so "n --" counts n down like "n--".
+std::string IncrementedName(const std::string& line, std::string_view sign) {
+  const std::string before = TrimRight(line.substr(0, line.find(sign)));
+  const auto blank = before.rfind(' ');
+  return before.substr(blank == std::string::npos ? 0 : blank + 1);
+}
+
 // What the main loop needs to know of a line, found once per line: a
 // frame's text never changes, so neither does anything read off a line.
 struct LineForm {
@@ -38,12 +69,30 @@ struct LineForm {
   bool endFunction = false;
   bool endWindow = false;
   bool newWindow = false;
+  char increment = 0;  // '+' or '-' for "name++" and "name--"
+  std::string incrementName;
+  std::optional<CompoundForm> compound;
   std::size_t goTo = npos;
   std::size_t whileAt = npos;
   std::size_t loopAt = npos;
   std::size_t endIfAt = npos;
   std::size_t ifAt = npos;
   std::size_t elseAt = npos;
+  bool mentionsMouseClick = false;
+  // The statement's first word and what stands behind it.
+  std::string word;
+  std::string upperWord;
+  std::string rest;
+  bool isCommand = false;
+  // An assignment: the text behind "=", and the parts it splits into once
+  // the text is known to hold no call (the split of such a text is fixed).
+  std::string assigned;
+  bool textParts = false;
+  std::optional<std::vector<std::string>> assignedParts;
+  // The statement number of the line behind this one, kept for the number
+  // it was searched for.
+  int nextFor = -1;
+  std::size_t nextStart = npos;
 };
 
 LineForm ReadLineForm(std::string line) {
@@ -57,12 +106,32 @@ LineForm ReadLineForm(std::string line) {
   form.endFunction = Contains(form.upper, "ENDFUNCTION");
   form.endWindow = Contains(form.upper, "ENDWINDOW");
   form.newWindow = Contains(form.upper, "NEWWINDOW");
+  if (EndsWith(line, "++") || EndsWith(line, "--")) {
+    form.increment = line.back();
+    form.incrementName = IncrementedName(line, form.increment == '+' ? "++" : "--");
+  } else if (auto plus = ReadCompound(line, '+')) {
+    form.compound = std::move(plus);
+  } else {
+    form.compound = ReadCompound(line, '-');
+  }
   form.goTo = line.find("GoTo");
   form.whileAt = line.find("While[");
   form.loopAt = line.find("Loop[");
   form.endIfAt = line.find("EndIf[");
   form.ifAt = line.find("If[");
   form.elseAt = line.find("Else[");
+  form.mentionsMouseClick = Contains(line, "MouseClick");
+
+  const std::string statement = line.size() > kStatementColumn ? line.substr(kStatementColumn) : std::string();
+  form.word = statement.substr(0, statement.find(' '));
+  form.upperWord = Upper(form.word);
+  form.rest = line.size() > form.word.size() + 20 ? line.substr(form.word.size() + 20) : std::string();
+  form.isCommand = IsCommandWord(form.word) || StartsWith(form.upperWord, "REP.");
+  const auto equals = line.find('=');
+  form.assigned = Trim(equals == std::string::npos ? line : line.substr(equals + 1));
+  form.textParts = Contains(form.upper, "CHR(") || Contains(form.upper, "JOIN(") ||
+                   Contains(form.upper, "FORMAT(") || Contains(form.upper, "DIRECTORY(") ||
+                   Contains(form.upper, "SQL(");
   form.line = std::move(line);
   return form;
 }
@@ -81,17 +150,17 @@ class Frame {
   void JumpToLineAt(std::size_t position);
   int NumberOfLineAt(std::size_t position) const;
   Next Step();
-  const LineForm& FormOfLine();
+  LineForm& FormOfLine();
   // Text searches from a place; the answers are kept, as the text is fixed.
   enum class Direction { Forward, Backward };
   std::size_t Search(const std::string& marker, std::size_t from, Direction direction);
-  Next Increment(const std::string& line, std::string_view sign);
-  bool CompoundAssign(std::string& line, char sign);
+  Next Increment(const LineForm& form);
+  void CompoundAssign(const CompoundForm& compound);
   Next GoTo(const std::string& line, std::size_t p);
   std::string Depth(const std::string& line, std::size_t open) const;
-  void Dispatch(const LineForm& form);
-  void DeclareVariables(const std::string& line, const std::string& word);
-  void Assign(const LineForm& form, const std::string& word, bool numeric);
+  void Dispatch(LineForm& form);
+  void Assign(LineForm& form, bool numeric);
+  void StoreParts(const LineForm& form, const std::vector<std::string>& parts, bool numeric);
   void Concatenate(const std::string& expr, const std::string& word);
   std::string& IfState(const std::string& depth);
   std::string GoToPrefix(const std::string& line) const;
@@ -108,7 +177,7 @@ class Frame {
   std::unordered_map<std::string, std::size_t> searches_;
 };
 
-const LineForm& Frame::FormOfLine() {
+LineForm& Frame::FormOfLine() {
   auto hit = forms_.find(lineStart_);
   if (hit == forms_.end()) {
     hit = forms_.emplace(lineStart_, ReadLineForm(text_.substr(lineStart_, lineEnd_ - lineStart_))).first;
@@ -150,7 +219,12 @@ bool Frame::Fetch(int firstLine) {
 
 bool Frame::Advance() {
   ++pc_;
-  const auto next = text_.find(LineTag(pc_), lineStart_);
+  LineForm& form = FormOfLine();
+  if (form.nextFor != pc_) {
+    form.nextFor = pc_;
+    form.nextStart = text_.find(LineTag(pc_), lineStart_);
+  }
+  const auto next = form.nextStart;
   if (next == std::string::npos) return false;
   lineStart_ = next;
   lineEnd_ = text_.find(kCrLf, lineStart_);
@@ -197,7 +271,7 @@ Frame::Next Frame::Step() {
   }
   if (state.statementBudget > 0) --state.statementBudget;
 
-  const LineForm& form = FormOfLine();
+  LineForm& form = FormOfLine();
   if (!form.errorPosition.empty()) state.errorPosition = form.errorPosition;
   if (form.endProgram) {
     state.stopFlag = true;
@@ -209,10 +283,12 @@ Frame::Next Frame::Step() {
     return Next::End;
   }
 
-  std::string line = form.line;
-  if (EndsWith(line, "++")) return Increment(line, "++");
-  if (EndsWith(line, "--")) return Increment(line, "--");
-  if (CompoundAssign(line, '+') || CompoundAssign(line, '-')) return Next::Line;
+  const std::string& line = form.line;
+  if (form.increment != 0) return Increment(form);
+  if (form.compound) {
+    CompoundAssign(*form.compound);
+    return Next::Line;
+  }
 
   if (form.newWindow) {
     std::string arguments = line.size() > 29 ? line.substr(29) : std::string();
@@ -254,7 +330,7 @@ Frame::Next Frame::Step() {
     std::string& ifState = IfState(d);
     const std::string condition = line.size() > p + 6 ? line.substr(p + 6) : std::string();
     ifState = EvaluateCondition(in_, condition, conditions_, flag_);
-    if (Contains(line, "MouseClick")) in_.Variables().SetVariable("MouseClick", std::string("FALSE"), false);
+    if (form.mentionsMouseClick) in_.Variables().SetVariable("MouseClick", std::string("FALSE"), false);
     if (ifState == "TRUE") return Next::Line;
     const auto endIf = Search("EndIf[" + d + "]", lineStart_, Direction::Forward);
     const auto elseAt = Search("Else[" + d + "]", lineStart_, Direction::Forward);
@@ -285,36 +361,22 @@ Frame::Next Frame::Step() {
   return Next::Line;
 }
 
-Frame::Next Frame::Increment(const std::string& line, std::string_view sign) {
+Frame::Next Frame::Increment(const LineForm& form) {
   flag_ = true;
-  // The name is the last word before the sign; blanks between them are
-  // passed over, so "n --" counts n down like "n--".
-  const std::string before = TrimRight(line.substr(0, line.find(sign)));
-  const auto blank = before.rfind(' ');
-  const std::string name = before.substr(blank == std::string::npos ? 0 : blank + 1);
   VariableStore& vars = in_.Variables();
   const Value one = std::int32_t{1};
-  const Value current = vars.GetVariable(name);
-  vars.SetVariable(name, sign == "++" ? AddValues(current, one) : SubtractValues(current, one), flag_);
+  const Value current = vars.GetVariable(form.incrementName);
+  vars.SetVariable(form.incrementName, form.increment == '+' ? AddValues(current, one) : SubtractValues(current, one),
+                   flag_);
   return Next::Line;
 }
 
-bool Frame::CompoundAssign(std::string& line, char sign) {
-  const std::string glued = std::string(1, sign) + " = ";
-  if (const auto g = line.find(glued); g != std::string::npos && g > 0 && line[g - 1] != ' ') {
-    line.insert(g, " ");
-  }
-  const auto p = line.find(std::string(" ") + sign + " =");
-  if (p == std::string::npos) return false;
-  const auto blank = p == 0 ? std::string::npos : line.rfind(' ', p - 1);
-  const auto nameStart = blank == std::string::npos ? 0 : blank + 1;
-  const std::string name = line.substr(nameStart, p - nameStart);
-  const std::string value = line.size() > p + 5 ? line.substr(p + 5) : std::string();
+void Frame::CompoundAssign(const CompoundForm& compound) {
   VariableStore& vars = in_.Variables();
-  const Value current = vars.GetVariable(name);
-  const Value operand = Evaluate(in_, value, flag_);
-  vars.SetVariable(name, sign == '+' ? AddValues(current, operand) : SubtractValues(current, operand), flag_);
-  return true;
+  const Value current = vars.GetVariable(compound.name);
+  const Value operand = Evaluate(in_, compound.value, flag_);
+  vars.SetVariable(compound.name, compound.sign == '+' ? AddValues(current, operand) : SubtractValues(current, operand),
+                   flag_);
 }
 
 Frame::Next Frame::GoTo(const std::string& line, std::size_t p) {
@@ -332,46 +394,36 @@ Frame::Next Frame::GoTo(const std::string& line, std::size_t p) {
   return Next::Jumped;
 }
 
-void Frame::Dispatch(const LineForm& form) {
-  const std::string& line = form.line;
-  const std::string statement = line.size() > kStatementColumn ? line.substr(kStatementColumn) : std::string();
-  const std::string word = statement.substr(0, statement.find(' '));
-  const std::string upperWord = Upper(word);
-  const auto rest = [&] { return line.size() > word.size() + 20 ? line.substr(word.size() + 20) : std::string(); };
+void Frame::Dispatch(LineForm& form) {
+  const std::string& word = form.word;
   VariableStore& vars = in_.Variables();
-
-  if (upperWord == "VAR" || upperWord == "VARIABLE") {
-    DeclareVariables(line, word);
+  if (form.upperWord == "VAR" || form.upperWord == "VARIABLE") {
+    in_.DeclareVariables(form.rest, flag_);
   } else if (in_.Procs().IsSub(word)) {
     ExecuteSub(in_, word);
-  } else if (upperWord == "RETURN") {
-    in_.State().returnValue = Evaluate(in_, rest(), flag_);
+  } else if (form.upperWord == "RETURN") {
+    in_.State().returnValue = Evaluate(in_, form.rest, flag_);
   } else if (vars.VarIndex(word) >= 0) {
-    Assign(form, word, vars.LastVarType() != VarType::String);
-  } else if (IsCommandWord(word) || StartsWith(upperWord, "REP.")) {
-    std::string arguments = rest();
+    Assign(form, vars.LastVarType() != VarType::String);
+  } else if (form.isCommand) {
+    std::string arguments = form.rest;
     in_.Commands().RunCommand(in_, word, arguments);
   } else {
     in_.QueryBox(in_.State().errorPosition + "\r\nError: variable undeclared: " + word);
   }
 }
 
-void Frame::DeclareVariables(const std::string& line, const std::string& word) {
-  const std::string list = line.size() > word.size() + 20 ? line.substr(word.size() + 20) : std::string();
-  in_.DeclareVariables(list, flag_);
-}
-
-void Frame::Assign(const LineForm& form, const std::string& word, bool numeric) {
-  const std::string& line = form.line;
-  const std::string& upper = form.upper;
-  const bool textParts = Contains(upper, "CHR(") || Contains(upper, "JOIN(") || Contains(upper, "FORMAT(") ||
-                         Contains(upper, "DIRECTORY(") || Contains(upper, "SQL(");
-  const auto equals = line.find('=');
-  std::string expr = Trim(equals == std::string::npos ? line : line.substr(equals + 1));
+void Frame::Assign(LineForm& form, bool numeric) {
+  if (form.assignedParts) {
+    StoreParts(form, *form.assignedParts, numeric);
+    return;
+  }
+  const std::string& word = form.word;
   VariableStore& vars = in_.Variables();
-
+  std::string expr = form.assigned;
   const std::string upperExpr = Upper(expr);
-  if (StartsWith(upperExpr, "SQL(") && !Contains(upperExpr, "TOTALRECORDS") && in_.SqlAssignment()) {
+  const bool sqlForm = StartsWith(upperExpr, "SQL(") && !Contains(upperExpr, "TOTALRECORDS");
+  if (sqlForm && in_.SqlAssignment()) {
     vars.SetVariable(word, in_.SqlAssignment()(in_, expr), true);
     return;
   }
@@ -385,24 +437,49 @@ void Frame::Assign(const LineForm& form, const std::string& word, bool numeric) 
     vars.SetVariable(word, CallFunction(in_, expr.substr(0, expr.size() - 2), ""), true);
     return;
   }
+  bool rewritten = false;
   RewriteGuard guard;
   while (FindFunctionCall(in_, expr, call, returnType)) {
     ExecuteFunctionCall(in_, expr, call, returnType);
     guard.Step(expr);
+    rewritten = true;
   }
   while (FindCommandCall(in_, expr, call)) {
     ExecuteCommandCall(in_, expr, call, numeric);
     guard.Step(expr);
+    rewritten = true;
   }
+  auto parts = SplitArguments(in_, expr, 11, false, numeric);
+  // A text without calls splits the same way at every run of the line.
+  if (!rewritten && !sqlForm && HoldsNoCall(in_, expr)) {
+    form.assignedParts = std::move(parts);
+    StoreParts(form, *form.assignedParts, numeric);
+  } else {
+    StoreParts(form, parts, numeric);
+  }
+}
 
-  const auto parts = SplitArguments(in_, expr, 11, false, numeric);
+void Frame::StoreParts(const LineForm& form, const std::vector<std::string>& parts, bool numeric) {
+  VariableStore& vars = in_.Variables();
+  // A single whole number goes in as it is: its text would read back the same.
+  if (!parts[0].empty() && parts[1].empty() && !form.textParts) {
+    const Value value = Evaluate(in_, parts[0], numeric);
+    if (IsPlainWholeNumber(value)) {
+      vars.SetVariable(form.word, value, true);
+    } else {
+      const std::string text = TextOf(value);
+      CheckTextSize(text.size());
+      vars.SetVariable(form.word, text, true);
+    }
+    return;
+  }
   std::string out;
   for (const auto& part : parts) {
     if (part.empty()) break;
-    out += TextOf(textParts ? EvaluateText(in_, part, numeric) : Evaluate(in_, part, numeric));
+    out += TextOf(form.textParts ? EvaluateText(in_, part, numeric) : Evaluate(in_, part, numeric));
     CheckTextSize(out.size());
   }
-  vars.SetVariable(word, out, true);
+  vars.SetVariable(form.word, out, true);
 }
 
 void Frame::Concatenate(const std::string& expr, const std::string& word) {

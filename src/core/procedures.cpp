@@ -76,6 +76,7 @@ void Procedures::ScanDeclarations(Interpreter& interpreter, const std::string& t
   timerNames_.clear();
   timerPeriods_.clear();
   functionCallCache_.Clear();
+  plans_.Clear();
   try {
     ScanFunctions(interpreter, text);
     ScanSubs(interpreter, text);

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/call_search_cache.h"
+#include "core/expression_plan.h"
 #include "core/value.h"
 
 namespace tamrix {
@@ -34,6 +35,9 @@ class Procedures {
   std::int32_t& CallCounter() { return callCounter_; }
   // Texts known to hold no call of a function of these tables.
   CallSearchCache& FunctionCallCache() { return functionCallCache_; }
+  // Evaluate's readings of texts without calls, which hold as long as the
+  // function names do.
+  ExpressionPlans& Plans() { return plans_; }
 
  private:
   void ScanFunctions(Interpreter& interpreter, const std::string& text);
@@ -48,6 +52,7 @@ class Procedures {
   bool hasTimers_ = false;
   std::int32_t callCounter_ = 0;
   CallSearchCache functionCallCache_;
+  ExpressionPlans plans_;
 };
 
 // Runs "Sub <name>" ... "EndSub" in a new frame.

@@ -1,5 +1,6 @@
 #include "core/value.h"
 
+#include <cmath>
 #include <limits>
 
 #include "core/fault.h"
@@ -22,6 +23,13 @@ std::string TextOf(const Value& v) {
   if (const auto* text = std::get_if<std::string>(&v)) return *text;
   if (const auto* integer = std::get_if<std::int32_t>(&v)) return std::to_string(*integer);
   return NumberText(std::get<double>(v));
+}
+
+bool IsPlainWholeNumber(const Value& v) {
+  if (std::holds_alternative<std::int32_t>(v)) return true;
+  const auto* real = std::get_if<double>(&v);
+  if (real == nullptr || std::abs(*real) >= 1e15 || *real != std::trunc(*real)) return false;
+  return *real != 0 || !std::signbit(*real);
 }
 
 double NumberOf(const Value& v) {

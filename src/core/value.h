@@ -26,6 +26,10 @@ void SetTextLimit(std::size_t bytes);
 // significant digits and the regional decimal sign.
 std::string TextOf(const Value& v);
 
+// True for an integer, and for a float that is a whole number below 1E15
+// (not a negative zero): values whose text form reads back as themselves.
+bool IsPlainWholeNumber(const Value& v);
+
 // The numeric value; a text is read by the regional rules and a text that is
 // no number is a type mismatch fault.
 double NumberOf(const Value& v);

@@ -87,10 +87,12 @@ void VariableStore::ResizeValues(VarType type, int slots) {
 int VariableStore::VarIndex(std::string_view name) {
   // The stored names are cut and trimmed; the name looked up is only
   // upper-cased, so a name longer than 50 characters is never found.
-  const std::string key = Upper(BaseName(name));
+  const auto bracket = name.find('(');
+  lookupKey_.assign(bracket == std::string_view::npos ? name : name.substr(0, bracket));
+  for (char& c : lookupKey_) c = UpperChar(c);
   for (auto type : {VarType::String, VarType::Integer, VarType::Decimal}) {
     const Table& table = tables_[Index(type)];
-    const auto hit = table.index.find(key);
+    const auto hit = table.index.find(lookupKey_);
     if (hit != table.index.end()) {
       lastVarType_ = type;
       lastType_ = TypeName(type);
@@ -144,7 +146,7 @@ int VariableStore::ElementIndex(std::string_view name) {
   if (const auto number = ParseRegionalNumber(inner)) return ToInt32(*number);
   // An index variable: its first slot is read from the Integer values,
   // whatever table the name stands in.
-  const std::string savedType = lastType_;
+  const char* savedType = lastType_;
   const VarType savedVarType = lastVarType_;
   const int slot = VarIndex(inner);
   int index = 0;

@@ -33,7 +33,7 @@ class VariableStore {
   // The first slot of the variable, or -1; everything from the first "(" on
   // is ignored. Sets LastType on success.
   int VarIndex(std::string_view name);
-  const std::string& LastType() const { return lastType_; }
+  std::string_view LastType() const { return lastType_; }
   VarType LastVarType() const { return lastVarType_; }
 
   // The value of a variable or array element; a stop box and an empty text
@@ -57,9 +57,14 @@ class VariableStore {
     int first = 0;
     int size = 1;
   };
+  struct NameHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view name) const { return std::hash<std::string_view>{}(name); }
+  };
   struct Table {
     std::vector<Record> records;
-    std::unordered_map<std::string, std::size_t> index;  // name -> first record
+    // name -> first record
+    std::unordered_map<std::string, std::size_t, NameHash, std::equal_to<>> index;
     int slotsInUse = 0;
     std::vector<std::string> texts;
     std::vector<std::int32_t> integers;
@@ -79,7 +84,8 @@ class VariableStore {
   void AddRecord(VarType type, std::string_view name, int size);
 
   std::array<Table, 3> tables_;
-  std::string lastType_;
+  std::string lookupKey_;  // VarIndex's upper-cased name, kept to spare an allocation per lookup
+  const char* lastType_ = "";
   VarType lastVarType_ = VarType::String;
   StopBoxFunction stopBox_;
   const std::string* errorPosition_ = nullptr;

@@ -1,0 +1,159 @@
+#include "core/expression_plan.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/evaluator.h"
+#include "core/fault.h"
+#include "core/interpreter.h"
+#include "core/numbers.h"
+#include "core/regional.h"
+#include "core/text.h"
+
+namespace tamrix {
+namespace {
+
+// Stands for a variable's digits when a formula is compiled.
+constexpr char kPlaceholder = '0';
+
+bool IsNameCharacter(char c) {
+  const char l = LowerChar(c);
+  return IsDigit(l) || (l >= '_' && l <= 'z') || l == '.';
+}
+
+// The value a variable's text form gives when read back as a number, for
+// values whose text is plain digits; nothing for any other value (a sign,
+// a fraction, an exponent, a text that is no digit run), which the text
+// reading then handles.
+std::optional<double> PlainWhole(const Value& value) {
+  if (const auto* integer = std::get_if<std::int32_t>(&value)) {
+    if (*integer < 0) return std::nullopt;
+    return static_cast<double>(*integer);
+  }
+  if (const auto* real = std::get_if<double>(&value)) {
+    if (*real == 0) return 0.0;  // "0", whatever the sign
+    if (!(*real > 0 && *real < 1e15) || *real != std::trunc(*real)) return std::nullopt;
+    return *real;
+  }
+  const auto& text = std::get<std::string>(value);
+  if (text.empty() || text.size() > 15 || !std::all_of(text.begin(), text.end(), IsDigit)) return std::nullopt;
+  return Val(text);
+}
+
+// A result as Evaluate hands it on: through its text form and back. Whole
+// numbers below 1E15 come back as they are.
+double ReadBack(double value) {
+  if (value == 0) return 0.0;
+  if (std::abs(value) < 1e15 && value == std::trunc(value)) return value;
+  return Val(ReplaceAll(NumberText(value), ",", "."));
+}
+
+CompiledFormula CompilePieces(const std::vector<FormulaPiece>& pieces) {
+  std::string text;
+  std::vector<int> origins;
+  int variable = 0;
+  for (const auto& piece : pieces) {
+    if (piece.isName) {
+      text += kPlaceholder;
+      origins.push_back(variable++);
+    } else {
+      text += piece.text;
+      origins.insert(origins.end(), piece.text.size(), -1);
+    }
+  }
+  return CompiledFormula::Compile(text, origins);
+}
+
+}  // namespace
+
+std::vector<FormulaPiece> SplitFormula(std::string_view formula, int& itemCount) {
+  itemCount = 0;
+  std::vector<FormulaPiece> pieces;
+  for (std::size_t i = 0; i < formula.size();) {
+    if (!IsLetter(formula[i])) {
+      if (pieces.empty() || pieces.back().isName) pieces.push_back({false, {}});
+      pieces.back().text += formula[i++];
+      ++itemCount;
+      continue;
+    }
+    std::size_t j = i;
+    while (j < formula.size() && formula[j] != '(' && IsNameCharacter(formula[j])) ++j;
+    if (j < formula.size() && formula[j] == '(') {
+      const auto close = formula.find(')', j);
+      j = close == std::string_view::npos ? formula.size() : close + 1;
+    }
+    pieces.push_back({true, std::string(formula.substr(i, j - i))});
+    ++itemCount;
+    i = j;
+  }
+  return pieces;
+}
+
+ExpressionPlan ReadExpression(std::string expr, bool compile) {
+  ExpressionPlan plan;
+  const Regional& regional = Regional::Current();
+  plan.decimalSign = regional.decimalSign;
+  plan.groupingSign = regional.groupingSign;
+  if (IsNumeric(expr)) {
+    plan.reading = ExpressionPlan::Reading::Number;
+    plan.number = Val(expr);
+  } else if (IsArithmetic(expr)) {
+    plan.reading = ExpressionPlan::Reading::Formula;
+    plan.pieces = SplitFormula(expr, plan.itemCount);
+    if (compile && plan.itemCount != 1) plan.compiled = CompilePieces(plan.pieces);
+  } else {
+    plan.reading = ExpressionPlan::Reading::NameOrLiteral;
+    plan.literal = StripQuotes(expr);
+  }
+  plan.expr = std::move(expr);
+  return plan;
+}
+
+Value RunExpression(Interpreter& interpreter, const ExpressionPlan& plan) {
+  VariableStore& vars = interpreter.Variables();
+  switch (plan.reading) {
+    case ExpressionPlan::Reading::Number: return plan.number;
+    case ExpressionPlan::Reading::NameOrLiteral:
+      if (vars.VarIndex(plan.expr) >= 0) return vars.GetVariable(plan.expr);
+      return plan.literal;
+    case ExpressionPlan::Reading::Formula: break;
+  }
+  std::vector<Value> values;
+  for (const auto& piece : plan.pieces) {
+    if (piece.isName) values.push_back(vars.GetVariable(piece.text));
+  }
+  if (plan.compiled.Compiled()) {
+    std::vector<double> numbers;
+    for (const auto& value : values) {
+      const auto number = PlainWhole(value);
+      if (!number) break;
+      numbers.push_back(*number);
+    }
+    if (numbers.size() == values.size()) {
+      if (const auto result = plan.compiled.Run(numbers)) return ReadBack(*result);
+    }
+  }
+  std::string expanded;
+  auto value = values.begin();
+  for (const auto& piece : plan.pieces) expanded += piece.isName ? TextOf(*value++) : piece.text;
+  if (plan.itemCount == 1) return expanded;
+  return Val(ReplaceAll(Calculate(expanded).text, ",", "."));
+}
+
+const ExpressionPlan* ExpressionPlans::Find(std::string_view source) const {
+  const auto hit = plans_.find(source);
+  if (hit == plans_.end()) return nullptr;
+  const Regional& regional = Regional::Current();
+  const ExpressionPlan& plan = hit->second;
+  if (plan.decimalSign != regional.decimalSign || plan.groupingSign != regional.groupingSign) return nullptr;
+  return &plan;
+}
+
+bool ExpressionPlans::Keeps(std::string_view source) const { return source.size() <= kLongestText; }
+
+const ExpressionPlan& ExpressionPlans::Remember(std::string_view source, ExpressionPlan plan) {
+  if (plans_.size() >= kMostPlans) plans_.clear();
+  return plans_.insert_or_assign(std::string(source), std::move(plan)).first->second;
+}
+
+}  // namespace tamrix
