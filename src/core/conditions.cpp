@@ -17,9 +17,9 @@ void ClearToFirstEmpty(std::array<std::string, N>& entries) {
 }
 
 template <std::size_t N>
-void Put(std::array<std::string, N>& entries, std::size_t& next, std::string value) {
+void Put(std::array<std::string, N>& entries, std::size_t& next, const std::string& value) {
   if (next >= N) Throw(kSubscriptOutOfRange);
-  entries[next++] = std::move(value);
+  entries[next++] = value;
 }
 
 // A side that is numeric, a numeric text included, as a float; texts that
@@ -34,14 +34,10 @@ Value Numeric(const Value& v) {
 
 }  // namespace
 
-void SplitCondition(std::string_view source, ConditionArrays& arrays) {
-  ClearToFirstEmpty(arrays.operands);
-  ClearToFirstEmpty(arrays.comparisons);
-  ClearToFirstEmpty(arrays.logics);
+ConditionSplit ReadCondition(std::string_view source) {
+  using Array = ConditionSplit::Array;
+  ConditionSplit split;
   const std::string text = Trim(source);
-  std::size_t nextOperand = 0;
-  std::size_t nextComparison = 0;
-  std::size_t nextLogic = 0;
   std::string current;
   for (std::size_t i = 0; i < text.size();) {
     const char a = text[i];
@@ -56,24 +52,43 @@ void SplitCondition(std::string_view source, ConditionArrays& arrays) {
     const char c = i + 2 < text.size() ? UpperChar(text[i + 2]) : '\0';
     if (a == '<' || a == '>' || a == '=') {
       const bool twoSigns = (a == '<' && (b == '>' || b == '=')) || (a == '>' && b == '=');
-      Put(arrays.comparisons, nextComparison, twoSigns ? std::string{a, b} : std::string{a});
+      split.entries.emplace_back(Array::Comparisons, twoSigns ? std::string{a, b} : std::string{a});
       i += twoSigns ? 2 : 1;
     } else if (a == 'O' && b == 'R') {
-      Put(arrays.logics, nextLogic, "OR");
+      split.entries.emplace_back(Array::Logics, "OR");
       i += 2;
     } else if (a == 'A' && b == 'N' && c == 'D') {
-      Put(arrays.logics, nextLogic, "AND");
+      split.entries.emplace_back(Array::Logics, "AND");
       i += 3;
     } else {
       current += a;
       ++i;
       continue;
     }
-    Put(arrays.operands, nextOperand, Trim(current));
+    split.entries.emplace_back(Array::Operands, Trim(current));
     current.clear();
   }
-  Put(arrays.operands, nextOperand, Trim(current));
+  split.entries.emplace_back(Array::Operands, Trim(current));
+  return split;
 }
+
+void StoreCondition(const ConditionSplit& split, ConditionArrays& arrays) {
+  ClearToFirstEmpty(arrays.operands);
+  ClearToFirstEmpty(arrays.comparisons);
+  ClearToFirstEmpty(arrays.logics);
+  std::size_t nextOperand = 0;
+  std::size_t nextComparison = 0;
+  std::size_t nextLogic = 0;
+  for (const auto& [array, value] : split.entries) {
+    switch (array) {
+      case ConditionSplit::Array::Operands: Put(arrays.operands, nextOperand, value); break;
+      case ConditionSplit::Array::Comparisons: Put(arrays.comparisons, nextComparison, value); break;
+      case ConditionSplit::Array::Logics: Put(arrays.logics, nextLogic, value); break;
+    }
+  }
+}
+
+void SplitCondition(std::string_view text, ConditionArrays& arrays) { StoreCondition(ReadCondition(text), arrays); }
 
 std::string CompareValues(const std::string& comparison, const Value& left, const Value& right) {
   Value l = left;
@@ -128,7 +143,12 @@ std::string CombineResults(const ConditionArrays& arrays) {
 
 std::string EvaluateCondition(Interpreter& interpreter, std::string_view text, ConditionArrays& arrays,
                               bool& numericFlag) {
-  SplitCondition(text, arrays);
+  return EvaluateCondition(interpreter, ReadCondition(text), arrays, numericFlag);
+}
+
+std::string EvaluateCondition(Interpreter& interpreter, const ConditionSplit& split, ConditionArrays& arrays,
+                              bool& numericFlag) {
+  StoreCondition(split, arrays);
   std::size_t k = 0;
   for (std::size_t i = 0; i < arrays.operands.size() && !arrays.operands[i].empty(); i += 2, ++k) {
     const Value left = Evaluate(interpreter, arrays.operands[i], numericFlag);

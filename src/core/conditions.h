@@ -5,6 +5,8 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "core/value.h"
 
@@ -21,10 +23,23 @@ struct ConditionArrays {
   std::array<std::string, 21> results;
 };
 
+// A condition text cut into operands, comparison signs and logic words, in
+// the order the cut stores them (a cut that overflows an array faults at
+// the same entry when stored again).
+struct ConditionSplit {
+  enum class Array { Operands, Comparisons, Logics };
+  std::vector<std::pair<Array, std::string>> entries;
+};
+
+ConditionSplit ReadCondition(std::string_view text);
+// Clears the arrays up to their first empty entries and stores the cut.
+void StoreCondition(const ConditionSplit& split, ConditionArrays& arrays);
 void SplitCondition(std::string_view text, ConditionArrays& arrays);
 std::string CompareValues(const std::string& comparison, const Value& left, const Value& right);
 std::string CombineResults(const ConditionArrays& arrays);
 std::string EvaluateCondition(Interpreter& interpreter, std::string_view text, ConditionArrays& arrays,
+                              bool& numericFlag);
+std::string EvaluateCondition(Interpreter& interpreter, const ConditionSplit& split, ConditionArrays& arrays,
                               bool& numericFlag);
 
 }  // namespace tamrix

@@ -69,6 +69,10 @@ struct LineForm {
   bool endFunction = false;
   bool endWindow = false;
   bool newWindow = false;
+  // Where the statement's names were last found.
+  NameCache wordFound;
+  NameCache incrementFound;
+  NameCache compoundFound;
   char increment = 0;  // '+' or '-' for "name++" and "name--"
   std::string incrementName;
   std::optional<CompoundForm> compound;
@@ -79,6 +83,9 @@ struct LineForm {
   std::size_t ifAt = npos;
   std::size_t elseAt = npos;
   bool mentionsMouseClick = false;
+  // The conditions of "While[" and "If[", cut at their first run.
+  std::optional<ConditionSplit> whileCondition;
+  std::optional<ConditionSplit> ifCondition;
   // The statement's first word and what stands behind it.
   std::string word;
   std::string upperWord;
@@ -154,13 +161,13 @@ class Frame {
   // Text searches from a place; the answers are kept, as the text is fixed.
   enum class Direction { Forward, Backward };
   std::size_t Search(const std::string& marker, std::size_t from, Direction direction);
-  Next Increment(const LineForm& form);
-  void CompoundAssign(const CompoundForm& compound);
+  Next Increment(LineForm& form);
+  void CompoundAssign(LineForm& form);
   Next GoTo(const std::string& line, std::size_t p);
   std::string Depth(const std::string& line, std::size_t open) const;
   void Dispatch(LineForm& form);
   void Assign(LineForm& form, bool numeric);
-  void StoreParts(const LineForm& form, const std::vector<std::string>& parts, bool numeric);
+  void StoreParts(LineForm& form, const std::vector<std::string>& parts, bool numeric);
   void Concatenate(const std::string& expr, const std::string& word);
   std::string& IfState(const std::string& depth);
   std::string GoToPrefix(const std::string& line) const;
@@ -286,7 +293,7 @@ Frame::Next Frame::Step() {
   const std::string& line = form.line;
   if (form.increment != 0) return Increment(form);
   if (form.compound) {
-    CompoundAssign(*form.compound);
+    CompoundAssign(form);
     return Next::Line;
   }
 
@@ -304,8 +311,8 @@ Frame::Next Frame::Step() {
 
   if (const auto p = form.whileAt; p != npos) {
     const std::string d = Depth(line, p + 6);
-    const std::string condition = line.size() > p + 9 ? line.substr(p + 9) : std::string();
-    if (EvaluateCondition(in_, condition, conditions_, flag_) == "TRUE") return Next::Line;
+    if (!form.whileCondition) form.whileCondition = ReadCondition(line.size() > p + 9 ? line.substr(p + 9) : "");
+    if (EvaluateCondition(in_, *form.whileCondition, conditions_, flag_) == "TRUE") return Next::Line;
     const auto loop = Search("Loop[" + d + "]", lineStart_, Direction::Forward);
     if (loop != std::string::npos) {
       pc_ = NumberOfLineAt(loop);
@@ -328,8 +335,8 @@ Frame::Next Frame::Step() {
   if (const auto p = form.ifAt; !reachedElse && p != npos) {
     const std::string d = Depth(line, p + 3);
     std::string& ifState = IfState(d);
-    const std::string condition = line.size() > p + 6 ? line.substr(p + 6) : std::string();
-    ifState = EvaluateCondition(in_, condition, conditions_, flag_);
+    if (!form.ifCondition) form.ifCondition = ReadCondition(line.size() > p + 6 ? line.substr(p + 6) : "");
+    ifState = EvaluateCondition(in_, *form.ifCondition, conditions_, flag_);
     if (form.mentionsMouseClick) in_.Variables().SetVariable("MouseClick", std::string("FALSE"), false);
     if (ifState == "TRUE") return Next::Line;
     const auto endIf = Search("EndIf[" + d + "]", lineStart_, Direction::Forward);
@@ -361,22 +368,23 @@ Frame::Next Frame::Step() {
   return Next::Line;
 }
 
-Frame::Next Frame::Increment(const LineForm& form) {
+Frame::Next Frame::Increment(LineForm& form) {
   flag_ = true;
   VariableStore& vars = in_.Variables();
   const Value one = std::int32_t{1};
-  const Value current = vars.GetVariable(form.incrementName);
+  const Value current = vars.GetVariable(form.incrementName, &form.incrementFound);
   vars.SetVariable(form.incrementName, form.increment == '+' ? AddValues(current, one) : SubtractValues(current, one),
-                   flag_);
+                   flag_, &form.incrementFound);
   return Next::Line;
 }
 
-void Frame::CompoundAssign(const CompoundForm& compound) {
+void Frame::CompoundAssign(LineForm& form) {
+  const CompoundForm& compound = *form.compound;
   VariableStore& vars = in_.Variables();
-  const Value current = vars.GetVariable(compound.name);
+  const Value current = vars.GetVariable(compound.name, &form.compoundFound);
   const Value operand = Evaluate(in_, compound.value, flag_);
   vars.SetVariable(compound.name, compound.sign == '+' ? AddValues(current, operand) : SubtractValues(current, operand),
-                   flag_);
+                   flag_, &form.compoundFound);
 }
 
 Frame::Next Frame::GoTo(const std::string& line, std::size_t p) {
@@ -403,7 +411,7 @@ void Frame::Dispatch(LineForm& form) {
     ExecuteSub(in_, word);
   } else if (form.upperWord == "RETURN") {
     in_.State().returnValue = Evaluate(in_, form.rest, flag_);
-  } else if (vars.VarIndex(word) >= 0) {
+  } else if (vars.VarIndex(word, &form.wordFound) >= 0) {
     Assign(form, vars.LastVarType() != VarType::String);
   } else if (form.isCommand) {
     std::string arguments = form.rest;
@@ -459,17 +467,17 @@ void Frame::Assign(LineForm& form, bool numeric) {
   }
 }
 
-void Frame::StoreParts(const LineForm& form, const std::vector<std::string>& parts, bool numeric) {
+void Frame::StoreParts(LineForm& form, const std::vector<std::string>& parts, bool numeric) {
   VariableStore& vars = in_.Variables();
   // A single whole number goes in as it is: its text would read back the same.
   if (!parts[0].empty() && parts[1].empty() && !form.textParts) {
     const Value value = Evaluate(in_, parts[0], numeric);
     if (IsPlainWholeNumber(value)) {
-      vars.SetVariable(form.word, value, true);
+      vars.SetVariable(form.word, value, true, &form.wordFound);
     } else {
       const std::string text = TextOf(value);
       CheckTextSize(text.size());
-      vars.SetVariable(form.word, text, true);
+      vars.SetVariable(form.word, text, true, &form.wordFound);
     }
     return;
   }
@@ -479,7 +487,7 @@ void Frame::StoreParts(const LineForm& form, const std::vector<std::string>& par
     out += TextOf(form.textParts ? EvaluateText(in_, part, numeric) : Evaluate(in_, part, numeric));
     CheckTextSize(out.size());
   }
-  vars.SetVariable(form.word, out, true);
+  vars.SetVariable(form.word, out, true, &form.wordFound);
 }
 
 void Frame::Concatenate(const std::string& expr, const std::string& word) {

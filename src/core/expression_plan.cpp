@@ -71,7 +71,7 @@ std::vector<FormulaPiece> SplitFormula(std::string_view formula, int& itemCount)
   std::vector<FormulaPiece> pieces;
   for (std::size_t i = 0; i < formula.size();) {
     if (!IsLetter(formula[i])) {
-      if (pieces.empty() || pieces.back().isName) pieces.push_back({false, {}});
+      if (pieces.empty() || pieces.back().isName) pieces.push_back({false, {}, {}});
       pieces.back().text += formula[i++];
       ++itemCount;
       continue;
@@ -82,7 +82,7 @@ std::vector<FormulaPiece> SplitFormula(std::string_view formula, int& itemCount)
       const auto close = formula.find(')', j);
       j = close == std::string_view::npos ? formula.size() : close + 1;
     }
-    pieces.push_back({true, std::string(formula.substr(i, j - i))});
+    pieces.push_back({true, std::string(formula.substr(i, j - i)), {}});
     ++itemCount;
     i = j;
   }
@@ -114,13 +114,13 @@ Value RunExpression(Interpreter& interpreter, const ExpressionPlan& plan) {
   switch (plan.reading) {
     case ExpressionPlan::Reading::Number: return plan.number;
     case ExpressionPlan::Reading::NameOrLiteral:
-      if (vars.VarIndex(plan.expr) >= 0) return vars.GetVariable(plan.expr);
+      if (const int first = vars.VarIndex(plan.expr, &plan.found); first >= 0) return vars.ReadFound(plan.expr, first);
       return plan.literal;
     case ExpressionPlan::Reading::Formula: break;
   }
   std::vector<Value> values;
   for (const auto& piece : plan.pieces) {
-    if (piece.isName) values.push_back(vars.GetVariable(piece.text));
+    if (piece.isName) values.push_back(vars.GetVariable(piece.text, &piece.found));
   }
   if (plan.compiled.Compiled()) {
     std::vector<double> numbers;

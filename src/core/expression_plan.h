@@ -13,6 +13,7 @@
 
 #include "core/calculate.h"
 #include "core/value.h"
+#include "core/variable_store.h"
 
 namespace tamrix {
 
@@ -23,6 +24,7 @@ class Interpreter;
 struct FormulaPiece {
   bool isName = false;
   std::string text;
+  mutable NameCache found;  // a name's place, for the next evaluation
 };
 
 // The pieces of `formula`; `itemCount` counts each other character and each
@@ -38,6 +40,7 @@ struct ExpressionPlan {
   char groupingSign = ',';
   double number = 0;     // Number
   std::string literal;   // NameOrLiteral: the text without its quotes
+  mutable NameCache found;  // NameOrLiteral: where the text was found as a name
   std::vector<FormulaPiece> pieces;  // Formula
   int itemCount = 0;
   CompiledFormula compiled;

@@ -35,6 +35,7 @@ void VariableStore::SetReporting(StopBoxFunction stopBox, const std::string* err
 }
 
 void VariableStore::Reset() {
+  ++shape_;
   for (auto type : {VarType::String, VarType::Integer, VarType::Decimal}) {
     Table& table = tables_[Index(type)];
     table = Table();
@@ -49,6 +50,7 @@ std::string VariableStore::RecordName(std::string_view name) {
 }
 
 void VariableStore::ForgetRecord(Table& table, std::size_t at) {
+  ++shape_;
   const std::string name = table.records[at].name;
   table.records.erase(table.records.begin() + static_cast<std::ptrdiff_t>(at));
   table.index.erase(name);
@@ -84,15 +86,29 @@ void VariableStore::ResizeValues(VarType type, int slots) {
   }
 }
 
-int VariableStore::VarIndex(std::string_view name) {
+int VariableStore::VarIndex(std::string_view name, NameCache* cache) {
+  if (cache != nullptr && cache->shape == shape_) {
+    if (cache->first >= 0) {
+      lastVarType_ = cache->type;
+      lastType_ = TypeName(cache->type);
+    }
+    return cache->first;
+  }
+  const int first = LookUp(name);
+  if (cache != nullptr) *cache = NameCache{shape_, first, lastVarType_};
+  return first;
+}
+
+int VariableStore::LookUp(std::string_view name) {
   // The stored names are cut and trimmed; the name looked up is only
   // upper-cased, so a name longer than 50 characters is never found.
   const auto bracket = name.find('(');
   lookupKey_.assign(bracket == std::string_view::npos ? name : name.substr(0, bracket));
   for (char& c : lookupKey_) c = UpperChar(c);
+  const HashedName key{lookupKey_, NameHash{}(std::string_view(lookupKey_))};
   for (auto type : {VarType::String, VarType::Integer, VarType::Decimal}) {
     const Table& table = tables_[Index(type)];
-    const auto hit = table.index.find(lookupKey_);
+    const auto hit = table.index.find(key);
     if (hit != table.index.end()) {
       lastVarType_ = type;
       lastType_ = TypeName(type);
@@ -160,8 +176,8 @@ int VariableStore::ElementIndex(std::string_view name) {
   return index;
 }
 
-Value VariableStore::GetVariable(std::string_view name) {
-  const int first = VarIndex(name);
+Value VariableStore::GetVariable(std::string_view name, NameCache* cache) {
+  const int first = VarIndex(name, cache);
   if (first < 0) {
     if (stopBox_) {
       const std::string position = errorPosition_ != nullptr ? *errorPosition_ : std::string();
@@ -169,13 +185,17 @@ Value VariableStore::GetVariable(std::string_view name) {
     }
     return std::string();
   }
+  return ReadFound(name, first);
+}
+
+Value VariableStore::ReadFound(std::string_view name, int first) {
   const VarType type = lastVarType_;
   const int offset = ElementIndex(name);
   return ReadSlot(type, first + offset);
 }
 
-void VariableStore::SetVariable(std::string_view name, const Value& value, bool complain) {
-  const int first = VarIndex(name);
+void VariableStore::SetVariable(std::string_view name, const Value& value, bool complain, NameCache* cache) {
+  const int first = VarIndex(name, cache);
   if (first < 0) {
     if (complain) {
       throw RuntimeFault(kRaisedByTamrix,
@@ -197,6 +217,7 @@ void VariableStore::AddRecord(VarType type, std::string_view name, int size) {
   // A table larger than this ends the run with the memory fault.
   constexpr long long kMaxSlots = 1LL << 24;
   if (static_cast<long long>(table.slotsInUse) + size > kMaxSlots) Throw(kOutOfMemory);
+  ++shape_;
   Record record{RecordName(name), table.slotsInUse, size};
   table.index.emplace(record.name, table.records.size());
   table.records.push_back(std::move(record));
