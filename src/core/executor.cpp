@@ -59,6 +59,14 @@ std::string IncrementedName(const std::string& line, std::string_view sign) {
   return before.substr(blank == std::string::npos ? 0 : blank + 1);
 }
 
+// A marker found by a block search, and the line it stands in: that line's
+// start and statement number (-1 when no line tag stands before it).
+struct LinePlace {
+  std::size_t found = npos;
+  std::size_t start = npos;
+  int number = -1;
+};
+
 // What the main loop needs to know of a line, found once per line: a
 // frame's text never changes, so neither does anything read off a line.
 struct LineForm {
@@ -100,7 +108,24 @@ struct LineForm {
   // it was searched for.
   int nextFor = -1;
   std::size_t nextStart = npos;
+  // The answers of this line's block searches and its depth tags' slots,
+  // found at their first run.
+  std::optional<LinePlace> loopBehind;  // "Loop[d]" behind a While
+  std::optional<LinePlace> whileBefore;  // "While[d]" before a Loop
+  std::optional<LinePlace> endIfBehind;  // "EndIf[d]" behind an If
+  std::optional<LinePlace> elseBehind;  // "Else[d]" behind an If
+  std::optional<LinePlace> endIfBehindElse;  // "EndIf[d]" behind an Else
+  std::optional<int> endIfSlot;
+  std::optional<int> ifSlot;
+  std::optional<int> elseSlot;
 };
+
+// Fills `slot` at its first use.
+template <typename T, typename Make>
+T& Once(std::optional<T>& slot, Make make) {
+  if (!slot) slot = make();
+  return *slot;
+}
 
 LineForm ReadLineForm(std::string line) {
   LineForm form;
@@ -155,12 +180,12 @@ class Frame {
   bool Fetch(int firstLine);
   bool Advance();
   void JumpToLineAt(std::size_t position);
-  int NumberOfLineAt(std::size_t position) const;
+  LinePlace PlaceOf(std::size_t found) const;
   Next Step();
   LineForm& FormOfLine();
-  // Text searches from a place; the answers are kept, as the text is fixed.
   enum class Direction { Forward, Backward };
-  std::size_t Search(const std::string& marker, std::size_t from, Direction direction);
+  LinePlace Locate(const std::string& marker, std::size_t from, Direction direction) const;
+  int& SlotOf(std::optional<int>& slot, const std::string& line, std::size_t open);
   Next Increment(LineForm& form);
   void CompoundAssign(LineForm& form);
   Next GoTo(const std::string& line, std::size_t p);
@@ -169,58 +194,56 @@ class Frame {
   void Assign(LineForm& form, bool numeric);
   void StoreParts(LineForm& form, const std::vector<std::string>& parts, bool numeric);
   void Concatenate(const std::string& expr, const std::string& word);
-  std::string& IfState(const std::string& depth);
   std::string GoToPrefix(const std::string& line) const;
 
   Interpreter& in_;
   std::string text_;
   int pc_ = 0;
   std::size_t lineStart_ = 0;
-  std::size_t lineEnd_ = 0;
   std::array<std::string, 21> ifState_;
   ConditionArrays conditions_;
   bool flag_ = false;
   std::unordered_map<std::size_t, LineForm> forms_;
-  std::unordered_map<std::string, std::size_t> searches_;
+  LineForm* form_ = nullptr;  // the form of the line at formStart_
+  std::size_t formStart_ = npos;
 };
 
 LineForm& Frame::FormOfLine() {
+  if (formStart_ == lineStart_) return *form_;
   auto hit = forms_.find(lineStart_);
   if (hit == forms_.end()) {
-    hit = forms_.emplace(lineStart_, ReadLineForm(text_.substr(lineStart_, lineEnd_ - lineStart_))).first;
+    auto lineEnd = text_.find(kCrLf, lineStart_);
+    if (lineEnd == std::string::npos) lineEnd = text_.size();
+    hit = forms_.emplace(lineStart_, ReadLineForm(text_.substr(lineStart_, lineEnd - lineStart_))).first;
   }
-  return hit->second;
+  formStart_ = lineStart_;
+  form_ = &hit->second;
+  return *form_;
 }
 
-std::size_t Frame::Search(const std::string& marker, std::size_t from, Direction direction) {
-  const bool forward = direction == Direction::Forward;
-  const std::string key = marker + (forward ? '>' : '<') + std::to_string(from);
-  const auto hit = searches_.find(key);
-  if (hit != searches_.end()) return hit->second;
-  const auto found = forward ? text_.find(marker, from) : text_.rfind(marker, from);
-  searches_.emplace(key, found);
-  return found;
+LinePlace Frame::PlaceOf(std::size_t found) const {
+  LinePlace place;
+  place.found = found;
+  place.start = text_.rfind("&#", found);
+  if (place.start != std::string::npos) place.number = std::atoi(text_.substr(place.start + 2, 5).c_str());
+  return place;
 }
 
-int Frame::NumberOfLineAt(std::size_t position) const {
-  const auto start = text_.rfind("&#", position);
-  if (start == std::string::npos) return -1;
-  return std::atoi(text_.substr(start + 2, 5).c_str());
+LinePlace Frame::Locate(const std::string& marker, std::size_t from, Direction direction) const {
+  const auto found = direction == Direction::Forward ? text_.find(marker, from) : text_.rfind(marker, from);
+  return found == std::string::npos ? LinePlace() : PlaceOf(found);
 }
 
 void Frame::JumpToLineAt(std::size_t position) {
-  lineStart_ = text_.rfind("&#", position);
-  pc_ = std::atoi(text_.substr(lineStart_ + 2, 5).c_str());
-  lineEnd_ = text_.find(kCrLf, lineStart_);
-  if (lineEnd_ == std::string::npos) lineEnd_ = text_.size();
+  const LinePlace place = PlaceOf(position);
+  lineStart_ = place.start;
+  pc_ = place.number;
 }
 
 bool Frame::Fetch(int firstLine) {
   lineStart_ = firstLine == 0 ? text_.find("&#") : text_.find(LineTag(firstLine));
   if (lineStart_ == std::string::npos) return false;
   pc_ = std::atoi(text_.substr(lineStart_ + 2, 5).c_str());
-  lineEnd_ = text_.find(kCrLf, lineStart_);
-  if (lineEnd_ == std::string::npos) lineEnd_ = text_.size();
   return true;
 }
 
@@ -231,11 +254,8 @@ bool Frame::Advance() {
     form.nextFor = pc_;
     form.nextStart = text_.find(LineTag(pc_), lineStart_);
   }
-  const auto next = form.nextStart;
-  if (next == std::string::npos) return false;
-  lineStart_ = next;
-  lineEnd_ = text_.find(kCrLf, lineStart_);
-  if (lineEnd_ == std::string::npos) lineEnd_ = text_.size();
+  if (form.nextStart == std::string::npos) return false;
+  lineStart_ = form.nextStart;
   return true;
 }
 
@@ -254,12 +274,16 @@ std::string Frame::Depth(const std::string& line, std::size_t open) const {
   return close == std::string::npos ? line.substr(open) : line.substr(open, close - open);
 }
 
-std::string& Frame::IfState(const std::string& depth) {
-  const auto parsed = ParseRegionalNumber(depth);
-  if (!parsed) Throw(kTypeMismatch);
-  const int index = ToInt16(*parsed);
-  if (index < 0 || index > 20) Throw(kSubscriptOutOfRange);
-  return ifState_[static_cast<std::size_t>(index)];
+// The If state slot named by the depth tag opened at `open`, kept in `slot`
+// once read (a tag that is no slot faults at every run).
+int& Frame::SlotOf(std::optional<int>& slot, const std::string& line, std::size_t open) {
+  return Once(slot, [&] {
+    const auto parsed = ParseRegionalNumber(Depth(line, open));
+    if (!parsed) Throw(kTypeMismatch);
+    const int index = ToInt16(*parsed);
+    if (index < 0 || index > 20) Throw(kSubscriptOutOfRange);
+    return index;
+  });
 }
 
 std::string Frame::GoToPrefix(const std::string& line) const {
@@ -310,40 +334,45 @@ Frame::Next Frame::Step() {
   if (form.goTo != npos) return GoTo(line, form.goTo);
 
   if (const auto p = form.whileAt; p != npos) {
-    const std::string d = Depth(line, p + 6);
     if (!form.whileCondition) form.whileCondition = ReadCondition(line.size() > p + 9 ? line.substr(p + 9) : "");
     if (EvaluateCondition(in_, *form.whileCondition, conditions_, flag_) == "TRUE") return Next::Line;
-    const auto loop = Search("Loop[" + d + "]", lineStart_, Direction::Forward);
-    if (loop != std::string::npos) {
-      pc_ = NumberOfLineAt(loop);
+    const LinePlace& loop = Once(form.loopBehind, [&] {
+      return Locate("Loop[" + Depth(line, p + 6) + "]", lineStart_, Direction::Forward);
+    });
+    if (loop.found != npos) {
+      pc_ = loop.number;
       return Next::Line;
     }
   }
   if (const auto p = form.loopAt; p != npos) {
-    const std::string d = Depth(line, p + 5);
-    const auto loopStart = lineStart_ == 0 ? npos : Search("While[" + d + "]", lineStart_ - 1, Direction::Backward);
-    if (loopStart != std::string::npos) {
-      JumpToLineAt(loopStart);
+    const LinePlace& loopStart = Once(form.whileBefore, [&] {
+      return lineStart_ == 0 ? LinePlace() : Locate("While[" + Depth(line, p + 5) + "]", lineStart_ - 1, Direction::Backward);
+    });
+    if (loopStart.found != npos) {
+      lineStart_ = loopStart.start;
+      pc_ = loopStart.number;
       return Next::Jumped;
     }
   }
   bool reachedElse = false;
   if (const auto p = form.endIfAt; p != npos) {
-    IfState(Depth(line, p + 6)).clear();
+    ifState_[static_cast<std::size_t>(SlotOf(form.endIfSlot, line, p + 6))].clear();
     reachedElse = true;
   }
   if (const auto p = form.ifAt; !reachedElse && p != npos) {
-    const std::string d = Depth(line, p + 3);
-    std::string& ifState = IfState(d);
+    std::string& ifState = ifState_[static_cast<std::size_t>(SlotOf(form.ifSlot, line, p + 3))];
     if (!form.ifCondition) form.ifCondition = ReadCondition(line.size() > p + 6 ? line.substr(p + 6) : "");
     ifState = EvaluateCondition(in_, *form.ifCondition, conditions_, flag_);
     if (form.mentionsMouseClick) in_.Variables().SetVariable("MouseClick", std::string("FALSE"), false);
     if (ifState == "TRUE") return Next::Line;
-    const auto endIf = Search("EndIf[" + d + "]", lineStart_, Direction::Forward);
-    const auto elseAt = Search("Else[" + d + "]", lineStart_, Direction::Forward);
-    if (endIf != std::string::npos) {
-      const int e = NumberOfLineAt(endIf);
-      const int x = elseAt == std::string::npos ? -1 : NumberOfLineAt(elseAt);
+    const std::string d = Depth(line, p + 3);
+    const LinePlace& endIf =
+        Once(form.endIfBehind, [&] { return Locate("EndIf[" + d + "]", lineStart_, Direction::Forward); });
+    const LinePlace& elseAt =
+        Once(form.elseBehind, [&] { return Locate("Else[" + d + "]", lineStart_, Direction::Forward); });
+    if (endIf.found != npos) {
+      const int e = endIf.number;
+      const int x = elseAt.found == npos ? -1 : elseAt.number;
       if (x < 0 || x >= e) {
         pc_ = e;
         ifState.clear();
@@ -354,12 +383,13 @@ Frame::Next Frame::Step() {
     }
   }
   if (const auto p = form.elseAt; p != npos) {
-    const std::string d = Depth(line, p + 5);
-    std::string& ifState = IfState(d);
+    std::string& ifState = ifState_[static_cast<std::size_t>(SlotOf(form.elseSlot, line, p + 5))];
     if (ifState == "FALSE") return Next::Line;
-    const auto endIf = Search("EndIf[" + d + "]", lineStart_, Direction::Forward);
-    if (endIf != std::string::npos) {
-      pc_ = NumberOfLineAt(endIf);
+    const LinePlace& endIf = Once(form.endIfBehindElse, [&] {
+      return Locate("EndIf[" + Depth(line, p + 5) + "]", lineStart_, Direction::Forward);
+    });
+    if (endIf.found != npos) {
+      pc_ = endIf.number;
       ifState.clear();
       return Next::Line;
     }
