@@ -1,22 +1,39 @@
-// Remembers texts in which the call finders found no call. The answer for a
-// text depends only on the text and on the names searched, so it holds
-// until the names change (never for the keyword list; at the declaration
-// scan for function names). Texts with a call are not remembered: finding a
-// call may show a box, which a cache must not skip.
+// Remembers what the call finders found in a text: no call, or the first
+// call with its argument text and the place of its name in the list
+// searched. The answer depends only on the text and on the names searched,
+// so it holds until the names change (never for the keyword list; at the
+// declaration scan for function names). Texts whose brackets don't match
+// are not remembered: their search shows a box, which a cache must not skip.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
-#include <unordered_set>
+#include <unordered_map>
 
 namespace tamrix {
 
+// A call found in an expression: its name as found and its argument list,
+// still carrying bracket tags.
+struct CallRecord {
+  std::string name;
+  std::string arguments;
+};
+
 class CallSearchCache {
  public:
+  struct Answer {
+    bool found = false;
+    CallRecord call;
+    std::size_t nameIndex = 0;
+  };
+
+  const Answer* Find(std::string_view text) const;
+  void Remember(std::string_view text, Answer answer);
   bool KnownWithoutCall(std::string_view text) const;
-  void RememberWithoutCall(std::string_view text);
-  void Clear() { texts_.clear(); }
+  void RememberWithoutCall(std::string_view text) { Remember(text, Answer()); }
+  void Clear() { answers_.clear(); }
 
  private:
   // Long texts are rare in expressions and not worth keeping.
@@ -26,7 +43,7 @@ class CallSearchCache {
     using is_transparent = void;
     std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
   };
-  std::unordered_set<std::string, TextHash, std::equal_to<>> texts_;
+  std::unordered_map<std::string, Answer, TextHash, std::equal_to<>> answers_;
 };
 
 }  // namespace tamrix

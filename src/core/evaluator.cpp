@@ -53,16 +53,29 @@ Search FindCall(Interpreter& interpreter, std::string_view text, const Names& na
   return Search::NoCall;
 }
 
-// FindCall through a cache of the texts known to hold no call; `order`
-// gives the places of the names worth trying, in list order.
+// FindCall through a cache of what earlier searches of the same text
+// found; `order` gives the places of the names worth trying, in list order.
 template <typename Names, typename Order, typename OnFound>
 bool FindCallCached(Interpreter& interpreter, CallSearchCache& cache, std::string_view text,
                     const Names& names, Order order, const std::string& errorWord, CallRecord& call,
                     OnFound onFound) {
-  if (cache.KnownWithoutCall(text)) return false;
-  const Search result = FindCall(interpreter, text, names, order(), errorWord, call, onFound);
-  if (result == Search::NoCall) cache.RememberWithoutCall(text);
-  return result == Search::Found;
+  if (const CallSearchCache::Answer* answer = cache.Find(text)) {
+    if (!answer->found) return false;
+    call = answer->call;
+    onFound(answer->nameIndex);
+    return true;
+  }
+  CallSearchCache::Answer answer;
+  const Search result = FindCall(interpreter, text, names, order(), errorWord, call, [&](std::size_t n) {
+    answer.nameIndex = n;
+    onFound(n);
+  });
+  if (result == Search::Unmatched) return false;
+  const bool found = result == Search::Found;
+  answer.found = found;
+  if (found) answer.call = call;
+  cache.Remember(text, std::move(answer));
+  return found;
 }
 
 // The text behind a rewritten call: it starts two characters behind the end
@@ -239,9 +252,9 @@ Value Evaluate(Interpreter& interpreter, std::string_view source, bool& numericF
     rewritten = true;
   }
   if (!rewritten && plans.Keeps(source) && HoldsNoCall(interpreter, expr)) {
-    return RunExpression(interpreter, plans.Remember(source, ReadExpression(std::move(expr), true)));
+    return RunExpression(interpreter, plans.Remember(source, ReadExpression(std::move(expr))));
   }
-  return RunExpression(interpreter, ReadExpression(std::move(expr), false));
+  return RunExpression(interpreter, ReadExpression(std::move(expr)));
 }
 
 Value EvaluateText(Interpreter& interpreter, std::string_view source, bool& numericFlag) {

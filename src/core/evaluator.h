@@ -6,18 +6,12 @@
 #include <string>
 #include <string_view>
 
+#include "core/call_search_cache.h"
 #include "core/value.h"
 
 namespace tamrix {
 
 class Interpreter;
-
-// A call found in an expression: its name as found and its argument list,
-// still carrying bracket tags.
-struct CallRecord {
-  std::string name;
-  std::string arguments;
-};
 
 // Bounds one loop of rewrites. A text whose calls keep rewriting into
 // further calls would loop for ever or grow without end: past 10,000

@@ -38,12 +38,18 @@ struct CompoundForm {
   std::string value;
 };
 
-std::optional<CompoundForm> ReadCompound(std::string line, char sign) {
-  const std::string glued = std::string(1, sign) + " = ";
-  if (const auto g = line.find(glued); g != std::string::npos && g > 0 && line[g - 1] != ' ') {
-    line.insert(g, " ");
+std::optional<CompoundForm> ReadCompound(const std::string& text, char sign) {
+  const char glued[] = {sign, ' ', '=', ' ', '\0'};
+  const char spaced[] = {' ', sign, ' ', '=', '\0'};
+  std::string withBlank;
+  const std::string* lineText = &text;
+  if (const auto g = text.find(glued); g != std::string::npos && g > 0 && text[g - 1] != ' ') {
+    withBlank = text;
+    withBlank.insert(g, " ");
+    lineText = &withBlank;
   }
-  const auto p = line.find(std::string(" ") + sign + " =");
+  const std::string& line = *lineText;
+  const auto p = line.find(spaced);
   if (p == std::string::npos) return std::nullopt;
   const auto blank = p == 0 ? std::string::npos : line.rfind(' ', p - 1);
   const auto nameStart = blank == std::string::npos ? 0 : blank + 1;
@@ -57,6 +63,20 @@ std::string IncrementedName(const std::string& line, std::string_view sign) {
   const std::string before = TrimRight(line.substr(0, line.find(sign)));
   const auto blank = before.rfind(' ');
   return before.substr(blank == std::string::npos ? 0 : blank + 1);
+}
+
+// The text behind "=" of an assignment line, and whether the line names a
+// call whose parts are evaluated as texts.
+struct AssignedText {
+  std::string text;
+  bool textParts = false;
+};
+
+AssignedText ReadAssignedText(const std::string& line, const std::string& upper) {
+  const auto equals = line.find('=');
+  return {Trim(equals == std::string::npos ? line : line.substr(equals + 1)),
+          Contains(upper, "CHR(") || Contains(upper, "JOIN(") || Contains(upper, "FORMAT(") ||
+              Contains(upper, "DIRECTORY(") || Contains(upper, "SQL(")};
 }
 
 // A marker found by a block search, and the line it stands in: that line's
@@ -98,11 +118,10 @@ struct LineForm {
   std::string word;
   std::string upperWord;
   std::string rest;
-  bool isCommand = false;
+  std::optional<bool> isCommand;
   // An assignment: the text behind "=", and the parts it splits into once
   // the text is known to hold no call (the split of such a text is fixed).
-  std::string assigned;
-  bool textParts = false;
+  std::optional<AssignedText> assigned;
   std::optional<std::vector<std::string>> assignedParts;
   // The statement number of the line behind this one, kept for the number
   // it was searched for.
@@ -158,12 +177,6 @@ LineForm ReadLineForm(std::string line) {
   form.word = statement.substr(0, statement.find(' '));
   form.upperWord = Upper(form.word);
   form.rest = line.size() > form.word.size() + 20 ? line.substr(form.word.size() + 20) : std::string();
-  form.isCommand = IsCommandWord(form.word) || StartsWith(form.upperWord, "REP.");
-  const auto equals = line.find('=');
-  form.assigned = Trim(equals == std::string::npos ? line : line.substr(equals + 1));
-  form.textParts = Contains(form.upper, "CHR(") || Contains(form.upper, "JOIN(") ||
-                   Contains(form.upper, "FORMAT(") || Contains(form.upper, "DIRECTORY(") ||
-                   Contains(form.upper, "SQL(");
   form.line = std::move(line);
   return form;
 }
@@ -443,7 +456,7 @@ void Frame::Dispatch(LineForm& form) {
     in_.State().returnValue = Evaluate(in_, form.rest, flag_);
   } else if (vars.VarIndex(word, &form.wordFound) >= 0) {
     Assign(form, vars.LastVarType() != VarType::String);
-  } else if (form.isCommand) {
+  } else if (Once(form.isCommand, [&] { return IsCommandWord(word) || StartsWith(form.upperWord, "REP."); })) {
     std::string arguments = form.rest;
     in_.Commands().RunCommand(in_, word, arguments);
   } else {
@@ -458,7 +471,7 @@ void Frame::Assign(LineForm& form, bool numeric) {
   }
   const std::string& word = form.word;
   VariableStore& vars = in_.Variables();
-  std::string expr = form.assigned;
+  std::string expr = Once(form.assigned, [&] { return ReadAssignedText(form.line, form.upper); }).text;
   const std::string upperExpr = Upper(expr);
   const bool sqlForm = StartsWith(upperExpr, "SQL(") && !Contains(upperExpr, "TOTALRECORDS");
   if (sqlForm && in_.SqlAssignment()) {
@@ -500,7 +513,8 @@ void Frame::Assign(LineForm& form, bool numeric) {
 void Frame::StoreParts(LineForm& form, const std::vector<std::string>& parts, bool numeric) {
   VariableStore& vars = in_.Variables();
   // A single whole number goes in as it is: its text would read back the same.
-  if (!parts[0].empty() && parts[1].empty() && !form.textParts) {
+  const bool textParts = form.assigned->textParts;
+  if (!parts[0].empty() && parts[1].empty() && !textParts) {
     const Value value = Evaluate(in_, parts[0], numeric);
     if (IsPlainWholeNumber(value)) {
       vars.SetVariable(form.word, value, true, &form.wordFound);
@@ -514,7 +528,7 @@ void Frame::StoreParts(LineForm& form, const std::vector<std::string>& parts, bo
   std::string out;
   for (const auto& part : parts) {
     if (part.empty()) break;
-    out += TextOf(form.textParts ? EvaluateText(in_, part, numeric) : Evaluate(in_, part, numeric));
+    out += TextOf(textParts ? EvaluateText(in_, part, numeric) : Evaluate(in_, part, numeric));
     CheckTextSize(out.size());
   }
   vars.SetVariable(form.word, out, true, &form.wordFound);

@@ -89,7 +89,7 @@ std::vector<FormulaPiece> SplitFormula(std::string_view formula, int& itemCount)
   return pieces;
 }
 
-ExpressionPlan ReadExpression(std::string expr, bool compile) {
+ExpressionPlan ReadExpression(std::string expr) {
   ExpressionPlan plan;
   const Regional& regional = Regional::Current();
   plan.decimalSign = regional.decimalSign;
@@ -100,7 +100,6 @@ ExpressionPlan ReadExpression(std::string expr, bool compile) {
   } else if (IsArithmetic(expr)) {
     plan.reading = ExpressionPlan::Reading::Formula;
     plan.pieces = SplitFormula(expr, plan.itemCount);
-    if (compile && plan.itemCount != 1) plan.compiled = CompilePieces(plan.pieces);
   } else {
     plan.reading = ExpressionPlan::Reading::NameOrLiteral;
     plan.literal = StripQuotes(expr);
@@ -140,12 +139,16 @@ Value RunExpression(Interpreter& interpreter, const ExpressionPlan& plan) {
   return Val(ReplaceAll(Calculate(expanded).text, ",", "."));
 }
 
-const ExpressionPlan* ExpressionPlans::Find(std::string_view source) const {
+const ExpressionPlan* ExpressionPlans::Find(std::string_view source) {
   const auto hit = plans_.find(source);
   if (hit == plans_.end()) return nullptr;
   const Regional& regional = Regional::Current();
-  const ExpressionPlan& plan = hit->second;
+  ExpressionPlan& plan = hit->second;
   if (plan.decimalSign != regional.decimalSign || plan.groupingSign != regional.groupingSign) return nullptr;
+  if (!plan.compileTried && plan.reading == ExpressionPlan::Reading::Formula && plan.itemCount != 1) {
+    plan.compiled = CompilePieces(plan.pieces);
+  }
+  plan.compileTried = true;
   return &plan;
 }
 

@@ -43,12 +43,14 @@ struct ExpressionPlan {
   mutable NameCache found;  // NameOrLiteral: where the text was found as a name
   std::vector<FormulaPiece> pieces;  // Formula
   int itemCount = 0;
+  // A formula is compiled when its plan is used a second time: most texts
+  // met once (a function body renamed for its call) are never met again.
+  bool compileTried = false;
   CompiledFormula compiled;
 };
 
 // The reading of an expression text with its calls already rewritten.
-// `compile`: also compile a formula, worth it for a plan that is kept.
-ExpressionPlan ReadExpression(std::string expr, bool compile);
+ExpressionPlan ReadExpression(std::string expr);
 // The value of the expression, as Evaluate gives it.
 Value RunExpression(Interpreter& interpreter, const ExpressionPlan& plan);
 
@@ -58,8 +60,8 @@ Value RunExpression(Interpreter& interpreter, const ExpressionPlan& plan);
 class ExpressionPlans {
  public:
   // The plan for `source`, when one is kept and the regional signs are
-  // still those it was read with.
-  const ExpressionPlan* Find(std::string_view source) const;
+  // still those it was read with; its formula compiled.
+  const ExpressionPlan* Find(std::string_view source);
   // Whether a plan for `source` would be kept: long texts are rare in
   // expressions and not worth it.
   bool Keeps(std::string_view source) const;

@@ -71,8 +71,9 @@ TEST(CallSearchCacheTest, KeepsOnlyShortTextsAndForgetsOnClear) {
   EXPECT_FALSE(cache.KnownWithoutCall("x + 1"));
 }
 
-TEST(CallSearchCacheTest, TextsWithACallOrAnUnmatchedBracketAreSearchedEachTime) {
+TEST(CallSearchCacheTest, AnUnmatchedBracketIsSearchedEachTimeAndAFoundCallIsKept) {
   Sandbox box;
+  box.Load({Unit({"EndProgram", "Function Twice(a Integer) Integer", "Return a * 2", "EndFunction"})});
   box.Declare("n Integer");
   CallRecord call;
   // No call: the answer is the same from the search and from the cache.
@@ -82,10 +83,17 @@ TEST(CallSearchCacheTest, TextsWithACallOrAnUnmatchedBracketAreSearchedEachTime)
   EXPECT_FALSE(FindCommandCall(box.interpreter, "Int 3", call));
   EXPECT_FALSE(FindCommandCall(box.interpreter, "Int 3", call));
   EXPECT_EQ(box.Boxes().size(), 2u);
-  // A call is found every time.
-  EXPECT_TRUE(FindCommandCall(box.interpreter, "Int(3.7)", call));
-  EXPECT_TRUE(FindCommandCall(box.interpreter, "Int(3.7)", call));
-  EXPECT_EQ(call.name, "Int");
+  // A call found again comes with the same name, tagged arguments and type.
+  for (int pass = 0; pass < 2; ++pass) {
+    EXPECT_TRUE(FindCommandCall(box.interpreter, "1 + Int(Int(3.7))", call));
+    EXPECT_EQ(call.name, "Int");
+    EXPECT_EQ(call.arguments, "Int(2]3.7[2)");
+    std::string returnType;
+    EXPECT_TRUE(FindFunctionCall(box.interpreter, "n + Twice(n)", call, returnType));
+    EXPECT_EQ(call.name, "Twice");
+    EXPECT_EQ(call.arguments, "n");
+    EXPECT_EQ(returnType, "Integer");
+  }
 }
 
 TEST(CallSearchCacheTest, FunctionNamesOfANewScanAreFound) {
