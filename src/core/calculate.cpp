@@ -232,7 +232,7 @@ CompiledFormula CompiledFormula::Compile(std::string_view text, const std::vecto
   return formula;
 }
 
-std::optional<double> CompiledFormula::Run(const std::vector<double>& values) const {
+std::optional<double> CompiledFormula::Run(std::span<const double> values) const {
   if (!compiled_) return std::nullopt;
   results_.resize(steps_.size());
   try {

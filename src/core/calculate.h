@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,7 +42,7 @@ class CompiledFormula {
   bool Compiled() const { return compiled_; }
   // The value for these variable values; nothing where Calculate would
   // report an error or where the value is not finite.
-  std::optional<double> Run(const std::vector<double>& values) const;
+  std::optional<double> Run(std::span<const double> values) const;
 
  private:
   bool compiled_ = false;

@@ -81,16 +81,20 @@ Value Dispatcher::RunCommand(Interpreter& interpreter, std::string_view word, st
   return result;
 }
 
-std::vector<std::string> SplitArguments(Interpreter& interpreter, std::string_view text,
-                                        std::size_t capacity, bool splitAtEquals,
-                                        bool& numericFlag) {
+bool SplitRunsCallsFirst(std::string_view text) {
   static constexpr std::string_view kProtectedCalls[] = {
       "JOINSTR(", "FORMAT(", "DATEADD(", "DATEDIFF(", "READPOINT(", "FIND(", "RGB(",
       "CIRCLE(", "RECTANGLE(", "READFILE(", "COPY(", "CALL(", "SEQSTR(", "SUBSTR("};
+  const std::string upper = Upper(text);
+  return std::any_of(std::begin(kProtectedCalls), std::end(kProtectedCalls),
+                     [&](std::string_view call) { return Contains(upper, call); });
+}
+
+std::vector<std::string> SplitArguments(Interpreter& interpreter, std::string_view text,
+                                        std::size_t capacity, bool splitAtEquals,
+                                        bool& numericFlag) {
   std::string work = Trim(text);
-  const std::string upper = Upper(work);
-  if (std::any_of(std::begin(kProtectedCalls), std::end(kProtectedCalls),
-                  [&](std::string_view call) { return Contains(upper, call); })) {
+  if (SplitRunsCallsFirst(work)) {
     // Calls whose commas must survive the split run first.
     CallRecord call;
     RewriteGuard guard;

@@ -79,6 +79,10 @@ bool CommandErrorBox(Interpreter& interpreter, std::string_view separator, const
 // result is empty.
 CommandHandler GuardedHandler(const std::string& name, std::string_view separator, CommandHandler handler);
 
+// True when SplitArguments runs the text's calls before it splits: it holds
+// a call whose commas must survive the split.
+bool SplitRunsCallsFirst(std::string_view text);
+
 // The argument splitter shared by every handler: parts at commas outside
 // string literals, optionally "=" as a part of its own. `capacity` is the
 // size of the caller's array; one part more is a subscript fault.

@@ -1,7 +1,9 @@
 #include "core/expression_plan.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <span>
 
 #include "core/evaluator.h"
 #include "core/fault.h"
@@ -100,6 +102,8 @@ ExpressionPlan ReadExpression(std::string expr) {
   } else if (IsArithmetic(expr)) {
     plan.reading = ExpressionPlan::Reading::Formula;
     plan.pieces = SplitFormula(expr, plan.itemCount);
+    plan.nameCount = static_cast<std::size_t>(
+        std::count_if(plan.pieces.begin(), plan.pieces.end(), [](const FormulaPiece& piece) { return piece.isName; }));
   } else {
     plan.reading = ExpressionPlan::Reading::NameOrLiteral;
     plan.literal = StripQuotes(expr);
@@ -117,19 +121,29 @@ Value RunExpression(Interpreter& interpreter, const ExpressionPlan& plan) {
       return plan.literal;
     case ExpressionPlan::Reading::Formula: break;
   }
-  std::vector<Value> values;
+  // The values of the formula's names, read in order; most formulas have
+  // few names, which stay off the heap.
+  constexpr std::size_t kFewNames = 8;
+  const bool few = plan.nameCount <= kFewNames;
+  std::array<Value, kFewNames> fewValues;
+  std::vector<Value> manyValues(few ? 0 : plan.nameCount);
+  const std::span<Value> values = few ? std::span<Value>(fewValues.data(), plan.nameCount) : manyValues;
+  auto next = values.begin();
   for (const auto& piece : plan.pieces) {
-    if (piece.isName) values.push_back(vars.GetVariable(piece.text, &piece.found));
+    if (piece.isName) *next++ = vars.GetVariable(piece.text, &piece.found);
   }
-  if (plan.compiled.Compiled()) {
-    std::vector<double> numbers;
-    for (const auto& value : values) {
-      const auto number = PlainWhole(value);
-      if (!number) break;
-      numbers.push_back(*number);
+  if (plan.compiled.Compiled() && few) {
+    std::array<double, kFewNames> numbers{};
+    bool plain = true;
+    for (std::size_t i = 0; i < values.size() && plain; ++i) {
+      const auto number = PlainWhole(values[i]);
+      plain = number.has_value();
+      if (plain) numbers[i] = *number;
     }
-    if (numbers.size() == values.size()) {
-      if (const auto result = plan.compiled.Run(numbers)) return ReadBack(*result);
+    if (plain) {
+      if (const auto result = plan.compiled.Run(std::span<const double>(numbers.data(), values.size()))) {
+        return ReadBack(*result);
+      }
     }
   }
   std::string expanded;

@@ -43,6 +43,7 @@ struct ExpressionPlan {
   mutable NameCache found;  // NameOrLiteral: where the text was found as a name
   std::vector<FormulaPiece> pieces;  // Formula
   int itemCount = 0;
+  std::size_t nameCount = 0;
   // A formula is compiled when its plan is used a second time: most texts
   // met once (a function body renamed for its call) are never met again.
   bool compileTried = false;

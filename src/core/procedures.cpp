@@ -77,6 +77,7 @@ void Procedures::ScanDeclarations(Interpreter& interpreter, const std::string& t
   timerPeriods_.clear();
   functionCallCache_.Clear();
   plans_.Clear();
+  declarations_.clear();
   try {
     ScanFunctions(interpreter, text);
     ScanSubs(interpreter, text);
@@ -152,31 +153,58 @@ void ExecuteSub(Interpreter& interpreter, const std::string& name) {
   RunStatements(interpreter, text.substr(p, sliceEnd - p), 0);
 }
 
+namespace {
+
+// What every call of a function reads off its declaration in the Program
+// Text: the slice from "Function <name>" to the line end behind its
+// EndFunction, its parameter list split, and the body behind its first line.
+FunctionDeclaration ReadDeclaration(Interpreter& interpreter, const std::string& name) {
+  const std::string& text = interpreter.ProgramText();
+  const auto p = text.find("Function " + name);
+  if (p == std::string::npos) {
+    interpreter.StopBox("Function not found: " + name);
+    Throw(kInvalidCall);
+  }
+  auto end = text.find("EndFunction", p);
+  while (end != std::string::npos && !StatementStartAt(text, end, 4)) end = text.find("EndFunction", end + 1);
+  std::size_t sliceEnd = text.size();
+  if (end != std::string::npos) {
+    const auto crlf = text.find(kCrLf, end);
+    if (crlf != std::string::npos) sliceEnd = crlf + 2;
+  }
+  FunctionDeclaration declaration;
+  const std::string slice = text.substr(p, sliceEnd - p);
+  const std::string parameterList = Between(slice, slice.find('(') + 1, slice.find(')'));
+  declaration.parameters = SplitArguments(interpreter, parameterList, 21, false, declaration.numericFlag);
+  // A list whose split runs calls is split anew at each call.
+  declaration.fixed = !SplitRunsCallsFirst(parameterList);
+  const auto firstLf = slice.find('\n');
+  declaration.body = firstLf == std::string::npos ? std::string() : slice.substr(firstLf + 1);
+  return declaration;
+}
+
+}  // namespace
+
+const FunctionDeclaration& Procedures::Declaration(Interpreter& interpreter, const std::string& name,
+                                                   FunctionDeclaration& unkept) {
+  if (const auto hit = declarations_.find(name); hit != declarations_.end()) return hit->second;
+  FunctionDeclaration declaration = ReadDeclaration(interpreter, name);
+  if (!declaration.fixed) {
+    unkept = std::move(declaration);
+    return unkept;
+  }
+  return declarations_.emplace(name, std::move(declaration)).first->second;
+}
+
 Value CallFunction(Interpreter& interpreter, const std::string& name, const std::string& arguments) {
   Procedures& procs = interpreter.Procs();
   std::vector<std::string> locals;
   try {
-    const std::string& text = interpreter.ProgramText();
-    const auto p = text.find("Function " + name);
-    if (p == std::string::npos) {
-      interpreter.StopBox("Function not found: " + name);
-      Throw(kInvalidCall);
-    }
-    auto end = text.find("EndFunction", p);
-    while (end != std::string::npos && !StatementStartAt(text, end, 4)) {
-      end = text.find("EndFunction", end + 1);
-    }
-    std::size_t sliceEnd = text.size();
-    if (end != std::string::npos) {
-      const auto crlf = text.find(kCrLf, end);
-      if (crlf != std::string::npos) sliceEnd = crlf + 2;
-    }
-    const std::string slice = text.substr(p, sliceEnd - p);
-
-    bool flag = false;
+    FunctionDeclaration unkept;
+    const FunctionDeclaration& declaration = procs.Declaration(interpreter, name, unkept);
+    const std::vector<std::string>& parameters = declaration.parameters;
+    bool flag = declaration.numericFlag;
     const std::string prefix = name + std::to_string(procs.CallCounter());
-    const auto parameters = SplitArguments(interpreter, Between(slice, slice.find('(') + 1, slice.find(')')),
-                                           21, false, flag);
     std::vector<std::string> uniques;
     for (const auto& parameter : parameters) {
       if (parameter.empty()) break;
@@ -187,8 +215,7 @@ Value CallFunction(Interpreter& interpreter, const std::string& name, const std:
     }
 
     const auto values = SplitArguments(interpreter, arguments, 21, false, flag);
-    const auto firstLf = slice.find('\n');
-    std::string body = firstLf == std::string::npos ? std::string() : slice.substr(firstLf + 1);
+    std::string body = declaration.body;
     for (std::size_t i = 0; i < values.size() && !values[i].empty(); ++i) {
       const std::string parameter = i < parameters.size() ? SplitEntry(parameters[i]).name : std::string();
       const std::string unique = i < uniques.size() ? uniques[i] : std::string();

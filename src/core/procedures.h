@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "core/call_search_cache.h"
@@ -16,6 +17,14 @@
 namespace tamrix {
 
 class Interpreter;
+
+// What a function's calls read off its declaration; see Procedures::Declaration.
+struct FunctionDeclaration {
+  std::vector<std::string> parameters;  // "name Type" entries, as split
+  std::string body;                     // the lines behind the declaration line
+  bool fixed = true;                    // the same at every call
+  bool numericFlag = false;             // as the split of the list left it
+};
 
 class Procedures {
  public:
@@ -38,6 +47,12 @@ class Procedures {
   // Evaluate's readings of texts without calls, which hold as long as the
   // function names do.
   ExpressionPlans& Plans() { return plans_; }
+  // The declaration of function `name`, read at its first call and kept,
+  // as the Program Text never changes; one whose parameter list runs calls
+  // when split is read anew at each call, into `unkept`. A missing function
+  // shows its stop box and faults.
+  const FunctionDeclaration& Declaration(Interpreter& interpreter, const std::string& name,
+                                         FunctionDeclaration& unkept);
 
  private:
   void ScanFunctions(Interpreter& interpreter, const std::string& text);
@@ -53,6 +68,7 @@ class Procedures {
   std::int32_t callCounter_ = 0;
   CallSearchCache functionCallCache_;
   ExpressionPlans plans_;
+  std::unordered_map<std::string, FunctionDeclaration> declarations_;
 };
 
 // Runs "Sub <name>" ... "EndSub" in a new frame.
