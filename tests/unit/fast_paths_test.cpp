@@ -130,7 +130,26 @@ INSTANTIATE_TEST_SUITE_P(
                     {"a0", "a1", "end"}},
         ProgramCase{"GoToBackwards",
                     {"Variable i Integer", "Again:", "i++", "If i < 3", "GoTo Again", "EndIf", "Write i"},
-                    {"3"}}),
+                    {"3"}},
+        // Each call declares and removes the function's names, so the kept
+        // places of the loop's names go stale at every pass; the function's
+        // declaration is read once and its body renamed anew.
+        ProgramCase{"CallsInALoop",
+                    {"Variable i Integer, s Decimal", "While i < 3", "s = s + Twice(i) * 10", "Write s", "i++",
+                     "Loop", "EndProgram", "Function Twice(a Integer) Integer", "Var b Integer", "b = a * 2",
+                     "Return b", "EndFunction"},
+                    {"0", "20", "60"}},
+        // Counting forms, with the sign glued to the name or apart from it.
+        ProgramCase{"CountingForms",
+                    {"Variable i Integer, n Integer, s Decimal", "n = 3", "While i < 3", "s += i", "s+= 1",
+                     "n --", "i++", "Loop", "Write s, \" \", n"},
+                    {"6 0"}},
+        // The same text read as a number, a formula and a literal, with
+        // values that change kind between the passes.
+        ProgramCase{"ValuesThatChangeKind",
+                    {"Variable i Integer, t String, d Decimal", "While i < 4", "d = t + i", "Write d",
+                     "t = t & \"1\"", "i++", "Loop"},
+                    {"0", "2", "13", "114"}}),
     ByName());
 
 // A literal holding the tag of the very next line is taken for that line:
