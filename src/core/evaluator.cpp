@@ -1,5 +1,6 @@
 #include "core/evaluator.h"
 
+#include <algorithm>
 #include <numeric>
 
 #include "core/call_search_cache.h"
@@ -93,6 +94,13 @@ bool CommandSearchSkips(std::string_view expr, std::string_view trimmed) {
 }
 
 bool FunctionSearchSkips(std::string_view expr) { return StartsWith(expr, "\""); }
+
+// Every keyword holds a letter, and so does every function name unless the
+// program declared one without: a text without letters holds no call, and
+// both finders pass it over without a box.
+bool MayHoldCall(Interpreter& interpreter, std::string_view text) {
+  return interpreter.Procs().NameWithoutLetters() || std::any_of(text.begin(), text.end(), IsLetter);
+}
 
 }  // namespace
 
@@ -236,6 +244,10 @@ Value Evaluate(Interpreter& interpreter, std::string_view source, bool& numericF
   ExpressionPlans& plans = interpreter.Procs().Plans();
   if (const ExpressionPlan* plan = plans.Find(source)) return RunExpression(interpreter, *plan);
   std::string expr = Trim(StripTags(source));
+  if (!MayHoldCall(interpreter, expr)) {
+    if (!plans.Keeps(source)) return RunExpression(interpreter, ReadExpression(std::move(expr)));
+    return RunExpression(interpreter, plans.Remember(source, ReadExpression(std::move(expr))));
+  }
   bool rewritten = false;
   CallRecord call;
   RewriteGuard guard;

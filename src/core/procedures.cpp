@@ -1,5 +1,7 @@
 #include "core/procedures.h"
 
+#include <algorithm>
+
 #include "core/dispatcher.h"
 #include "core/evaluator.h"
 #include "core/executor.h"
@@ -88,6 +90,9 @@ void Procedures::ScanDeclarations(Interpreter& interpreter, const std::string& t
         "-You forgot to put parentheses to declare a function or subroutine?\r\n"
         "-You put some ZR reserved word in the name of some function or subroutine?");
   }
+  nameWithoutLetters_ = std::any_of(functionNames_.begin(), functionNames_.end(), [](const std::string& name) {
+    return !name.empty() && std::none_of(name.begin(), name.end(), IsLetter);
+  });
 }
 
 void Procedures::ScanFunctions(Interpreter& interpreter, const std::string& text) {

@@ -36,6 +36,8 @@ class Procedures {
   bool HasTimers() const { return hasTimers_; }
 
   const std::vector<std::string>& FunctionNames() const { return functionNames_; }
+  // True when a function name holds no letter.
+  bool NameWithoutLetters() const { return nameWithoutLetters_; }
   const std::vector<std::string>& FunctionReturns() const { return functionReturns_; }
   const std::vector<std::string>& SubNames() const { return subNames_; }
   const std::vector<std::string>& TimerNames() const { return timerNames_; }
@@ -65,6 +67,7 @@ class Procedures {
   std::vector<std::string> timerNames_;
   std::vector<std::int16_t> timerPeriods_;
   bool hasTimers_ = false;
+  bool nameWithoutLetters_ = false;
   std::int32_t callCounter_ = 0;
   CallSearchCache functionCallCache_;
   ExpressionPlans plans_;

@@ -4,6 +4,7 @@
 // number writing and reading.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -13,6 +14,7 @@
 #include "core/keywords.h"
 #include "core/numbers.h"
 #include "core/procedures.h"
+#include "core/text.h"
 #include "core_sandbox.h"
 
 namespace tamrix::testing {
@@ -105,6 +107,25 @@ TEST(CallSearchCacheTest, FunctionNamesOfANewScanAreFound) {
   box.Load({Unit({"EndProgram", "Function Twice(a Integer) Integer", "Return a * 2", "EndFunction"})});
   EXPECT_TRUE(FindFunctionCall(box.interpreter, "Twice(2)", call, returnType));
   EXPECT_EQ(returnType, "Integer");
+}
+
+// Texts without letters are read without a search, as no keyword can stand
+// in them; a function whose name holds no letter keeps them searched.
+TEST(CallSearchCacheTest, EveryKeywordHoldsALetter) {
+  for (const auto& keyword : KeywordList()) {
+    EXPECT_TRUE(std::any_of(keyword.begin(), keyword.end(), IsLetter)) << keyword;
+  }
+}
+
+TEST(CallSearchCacheTest, AFunctionNameWithoutLettersIsStillSearchedFor) {
+  ProgramRun run;
+  run.Run(Lines({"Variable x Integer", "x = 7(2) + 1", "Write x", "EndProgram", "Function 7(a Integer) Integer",
+                 "Return a * 3", "EndFunction"}));
+  // The name is found in front of its own digits, which the bracket
+  // search takes for a name without brackets.
+  const std::string box = StopBoxLine("Error in function 7\\r\\n\\r\\nMake sure you put the arguments in parentheses!");
+  EXPECT_EQ(run.Boxes(), std::vector<std::string>(3, box));
+  EXPECT_EQ(run.Written(), std::vector<std::string>{"73"});
 }
 
 // Loops run each line and each jump search many times, so that the second
