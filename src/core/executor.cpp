@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdlib>
+#include <memory>
 #include <optional>
 #include <unordered_map>
 #include <vector>
@@ -199,6 +200,10 @@ class Frame {
   enum class Direction { Forward, Backward };
   LinePlace Locate(const std::string& marker, std::size_t from, Direction direction) const;
   int& SlotOf(std::optional<int>& slot, const std::string& line, std::size_t open);
+  ConditionArrays& Conditions() {
+    if (!conditions_) conditions_ = std::make_unique<ConditionArrays>();
+    return *conditions_;
+  }
   Next Increment(LineForm& form);
   void CompoundAssign(LineForm& form);
   Next GoTo(const std::string& line, std::size_t p);
@@ -214,7 +219,8 @@ class Frame {
   int pc_ = 0;
   std::size_t lineStart_ = 0;
   std::array<std::string, 21> ifState_;
-  ConditionArrays conditions_;
+  // Made at the frame's first condition: most function bodies have none.
+  std::unique_ptr<ConditionArrays> conditions_;
   bool flag_ = false;
   std::unordered_map<std::size_t, LineForm> forms_;
   LineForm* form_ = nullptr;  // the form of the line at formStart_
@@ -348,7 +354,7 @@ Frame::Next Frame::Step() {
 
   if (const auto p = form.whileAt; p != npos) {
     if (!form.whileCondition) form.whileCondition = ReadCondition(line.size() > p + 9 ? line.substr(p + 9) : "");
-    if (EvaluateCondition(in_, *form.whileCondition, conditions_, flag_) == "TRUE") return Next::Line;
+    if (EvaluateCondition(in_, *form.whileCondition, Conditions(), flag_) == "TRUE") return Next::Line;
     const LinePlace& loop = Once(form.loopBehind, [&] {
       return Locate("Loop[" + Depth(line, p + 6) + "]", lineStart_, Direction::Forward);
     });
@@ -375,7 +381,7 @@ Frame::Next Frame::Step() {
   if (const auto p = form.ifAt; !reachedElse && p != npos) {
     std::string& ifState = ifState_[static_cast<std::size_t>(SlotOf(form.ifSlot, line, p + 3))];
     if (!form.ifCondition) form.ifCondition = ReadCondition(line.size() > p + 6 ? line.substr(p + 6) : "");
-    ifState = EvaluateCondition(in_, *form.ifCondition, conditions_, flag_);
+    ifState = EvaluateCondition(in_, *form.ifCondition, Conditions(), flag_);
     if (form.mentionsMouseClick) in_.Variables().SetVariable("MouseClick", std::string("FALSE"), false);
     if (ifState == "TRUE") return Next::Line;
     const std::string d = Depth(line, p + 3);
