@@ -212,6 +212,7 @@ class Frame {
   void Assign(LineForm& form, bool numeric);
   void StoreParts(LineForm& form, const std::vector<std::string>& parts, bool numeric);
   void Concatenate(const std::string& expr, const std::string& word);
+  bool AppendInPlace(const std::vector<std::string>& pieces, const std::string& word);
   std::string GoToPrefix(const std::string& line) const;
 
   Interpreter& in_;
@@ -540,13 +541,23 @@ void Frame::StoreParts(LineForm& form, const std::vector<std::string>& parts, bo
   vars.SetVariable(form.word, out, true, &form.wordFound);
 }
 
-void Frame::Concatenate(const std::string& expr, const std::string& word) {
-  std::string out;
-  std::size_t start = 0;
-  VariableStore& vars = in_.Variables();
-  for (;;) {
+// The pieces of "a & b & ...", trimmed.
+std::vector<std::string> JoinedPieces(const std::string& expr) {
+  std::vector<std::string> pieces;
+  for (std::size_t start = 0;;) {
     const auto joint = expr.find(" & ", start);
-    const std::string piece = Trim(expr.substr(start, joint == std::string::npos ? std::string::npos : joint - start));
+    pieces.push_back(Trim(expr.substr(start, joint == std::string::npos ? std::string::npos : joint - start)));
+    if (joint == std::string::npos) return pieces;
+    start = joint + 3;
+  }
+}
+
+void Frame::Concatenate(const std::string& expr, const std::string& word) {
+  VariableStore& vars = in_.Variables();
+  const std::vector<std::string> pieces = JoinedPieces(expr);
+  if (AppendInPlace(pieces, word)) return;
+  std::string out;
+  for (const auto& piece : pieces) {
     CallRecord call;
     if (StartsWith(piece, "\"")) {
       out += StripQuotes(piece);
@@ -560,10 +571,35 @@ void Frame::Concatenate(const std::string& expr, const std::string& word) {
       out += StripQuotes(TextOf(in_.Commands().RunCommand(in_, call.name, arguments)));
     }
     CheckTextSize(out.size());
-    if (joint == std::string::npos) break;
-    start = joint + 3;
   }
   vars.SetVariable(word, out, true);
+}
+
+// "t = t & ..." on a String variable, where every other piece is a literal
+// or a declared name, appends to t's text where it lies, instead of copying
+// it into a new text: a loop of appends then costs in proportion to what
+// it appends. Pieces that may search for a call (and show a box, or run a
+// command that could change t) take the ordinary way.
+bool Frame::AppendInPlace(const std::vector<std::string>& pieces, const std::string& word) {
+  VariableStore& vars = in_.Variables();
+  if (pieces.size() < 2 || Contains(word, "(") || Contains(pieces[0], "(")) return false;
+  const int target = vars.VarIndex(word);
+  if (target < 0 || vars.LastVarType() != VarType::String || vars.VarIndex(pieces[0]) != target ||
+      vars.LastVarType() != VarType::String) {
+    return false;
+  }
+  for (std::size_t i = 1; i < pieces.size(); ++i) {
+    if (!StartsWith(pieces[i], "\"") && vars.VarIndex(pieces[i]) < 0) return false;
+  }
+  std::string tail;
+  for (std::size_t i = 1; i < pieces.size(); ++i) {
+    tail += StartsWith(pieces[i], "\"") ? StripQuotes(pieces[i]) : TextOf(vars.GetVariable(pieces[i]));
+  }
+  // The target is found last, as the assignment of the whole text finds it.
+  std::string& text = vars.TextAt(vars.VarIndex(word));
+  CheckTextSize(text.size() + tail.size());
+  text += tail;
+  return true;
 }
 
 }  // namespace

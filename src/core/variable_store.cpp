@@ -188,6 +188,11 @@ Value VariableStore::GetVariable(std::string_view name, NameCache* cache) {
   return ReadFound(name, first);
 }
 
+std::string& VariableStore::TextAt(int slot) {
+  if (slot < 0 || slot >= SlotCount(VarType::String)) Throw(kSubscriptOutOfRange);
+  return tables_[Index(VarType::String)].texts[static_cast<std::size_t>(slot)];
+}
+
 Value VariableStore::ReadFound(std::string_view name, int first) {
   const VarType type = lastVarType_;
   const int offset = ElementIndex(name);

@@ -48,6 +48,8 @@ class VariableStore {
   // The value of a variable or array element; a stop box and an empty text
   // for an undeclared name. An index outside the value array is a fault.
   Value GetVariable(std::string_view name, NameCache* cache = nullptr);
+  // The stored text of the String slot `slot`, to be changed in place.
+  std::string& TextAt(int slot);
   // GetVariable for a name that VarIndex has just found at `first`.
   Value ReadFound(std::string_view name, int first);
   // Stores a value converted to the variable's type. An undeclared name

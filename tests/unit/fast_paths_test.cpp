@@ -167,6 +167,14 @@ INSTANTIATE_TEST_SUITE_P(
                     {"Variable i Integer, n Integer, s Decimal", "n = 3", "While i < 3", "s += i", "s+= 1",
                      "n --", "i++", "Loop", "Write s, \" \", n"},
                     {"6 0"}},
+        // Appends in place and the ordinary joining side by side: another
+        // case of the name, a name behind, a piece that is searched for a
+        // call, a target of another type, an element.
+        ProgramCase{"Appends",
+                    {"Variable t String, u String, n Integer, a(2) String, i Integer", "u = \"-\"", "n = 1",
+                     "While i < 2", "t = t & \"x\"", "t = T & u & \"y\"", "t = t & 5", "t = t & Str(i)",
+                     "n = n & 2", "a(1) = a(1) & \"z\"", "i++", "Loop", "Write t, \" \", n, \" \", a(1)"},
+                    {"x-yx-y 1 zz"}},
         // The same text read as a number, a formula and a literal, with
         // values that change kind between the passes.
         ProgramCase{"ValuesThatChangeKind",
@@ -174,6 +182,17 @@ INSTANTIATE_TEST_SUITE_P(
                      "t = t & \"1\"", "i++", "Loop"},
                     {"0", "2", "13", "114"}}),
     ByName());
+
+TEST(RepeatedLines, AnAppendPastTheTextLimitEndsInTheMemoryFault) {
+  SetTextLimit(100);
+  ProgramRun run;
+  run.Run(Lines({"Variable t String, u String", "u = \"abcdefghijabcdefghijabcdefghij\"", "t = t & u",
+                 "Write \"one\"", "t = t & u & u", "Write \"two \", StrLen(t)", "t = t & u", "Write \"three\""}));
+  SetTextLimit(kMaxTextBytes);
+  EXPECT_EQ(run.Written(), (std::vector<std::string>{"one", "two 90"}));
+  ASSERT_EQ(run.Boxes().size(), 1u);
+  EXPECT_NE(run.Boxes()[0].find("Out of memory"), std::string::npos) << run.Boxes()[0];
+}
 
 // A literal holding the tag of the very next line is taken for that line:
 // the fetch lands inside the literal, the rest of its line is an unknown
