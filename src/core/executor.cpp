@@ -132,8 +132,8 @@ struct LineForm {
   // found at their first run.
   std::optional<LinePlace> loopBehind;  // "Loop[d]" behind a While
   std::optional<LinePlace> whileBefore;  // "While[d]" before a Loop
-  std::optional<LinePlace> endIfBehind;  // "EndIf[d]" behind an If
-  std::optional<LinePlace> elseBehind;  // "Else[d]" behind an If
+  std::optional<LinePlace> endIfBehind;  // "EndIf[d]" behind an If, found with
+  std::optional<LinePlace> elseBehind;   // "Else[d]" behind it
   std::optional<LinePlace> endIfBehindElse;  // "EndIf[d]" behind an Else
   std::optional<int> endIfSlot;
   std::optional<int> ifSlot;
@@ -385,11 +385,13 @@ Frame::Next Frame::Step() {
     ifState = EvaluateCondition(in_, *form.ifCondition, Conditions(), flag_);
     if (form.mentionsMouseClick) in_.Variables().SetVariable("MouseClick", std::string("FALSE"), false);
     if (ifState == "TRUE") return Next::Line;
-    const std::string d = Depth(line, p + 3);
-    const LinePlace& endIf =
-        Once(form.endIfBehind, [&] { return Locate("EndIf[" + d + "]", lineStart_, Direction::Forward); });
-    const LinePlace& elseAt =
-        Once(form.elseBehind, [&] { return Locate("Else[" + d + "]", lineStart_, Direction::Forward); });
+    if (!form.endIfBehind) {
+      const std::string d = Depth(line, p + 3);
+      form.endIfBehind = Locate("EndIf[" + d + "]", lineStart_, Direction::Forward);
+      form.elseBehind = Locate("Else[" + d + "]", lineStart_, Direction::Forward);
+    }
+    const LinePlace& endIf = *form.endIfBehind;
+    const LinePlace& elseAt = *form.elseBehind;
     if (endIf.found != npos) {
       const int e = endIf.number;
       const int x = elseAt.found == npos ? -1 : elseAt.number;
