@@ -153,7 +153,7 @@ class StepAlgebra {
  public:
   using Number = int;  // the step that leaves the number on the stack
 
-  StepAlgebra(std::string_view text, const std::vector<int>& origins) : text_(text), origins_(origins) {}
+  explicit StepAlgebra(const std::vector<int>& origins) : origins_(origins) {}
 
   int Zero() { return Push({CompiledFormula::Step::Kind::Constant, 0, 0}); }
   void Append(std::size_t at, char c) {
@@ -190,7 +190,6 @@ class StepAlgebra {
     return static_cast<int>(steps_.size()) - 1;
   }
 
-  std::string_view text_;
   const std::vector<int>& origins_;
   std::vector<CompiledFormula::Step> steps_;
   std::string buffer_;
@@ -219,7 +218,7 @@ CalculateResult Calculate(std::string_view formula) {
 CompiledFormula CompiledFormula::Compile(std::string_view text, const std::vector<int>& origins) {
   CompiledFormula formula;
   const std::string plain = ReplaceAll(text, ",", ".");
-  StepAlgebra algebra(plain, origins);
+  StepAlgebra algebra(origins);
   Reader reader(plain, algebra);
   try {
     formula.result_ = reader.Frame(0, algebra.Zero());

@@ -6,7 +6,6 @@
 #include <span>
 
 #include "core/evaluator.h"
-#include "core/fault.h"
 #include "core/interpreter.h"
 #include "core/numbers.h"
 #include "core/regional.h"
