@@ -141,6 +141,24 @@ bool Procedures::IsSub(std::string_view word) const {
   return false;
 }
 
+namespace {
+
+// The text of a Sub or Function from its declaration at `start` to the line
+// end behind its end word (one standing as a statement), or to the end of
+// the text when there is none.
+std::string BlockSlice(const std::string& text, std::size_t start, std::string_view endWord) {
+  auto end = text.find(endWord, start);
+  while (end != std::string::npos && !StatementStartAt(text, end, 4)) end = text.find(endWord, end + 1);
+  std::size_t sliceEnd = text.size();
+  if (end != std::string::npos) {
+    const auto crlf = text.find(kCrLf, end);
+    if (crlf != std::string::npos) sliceEnd = crlf + 2;
+  }
+  return text.substr(start, sliceEnd - start);
+}
+
+}  // namespace
+
 void ExecuteSub(Interpreter& interpreter, const std::string& name) {
   const std::string& text = interpreter.ProgramText();
   const auto p = text.find("Sub " + name);
@@ -148,14 +166,7 @@ void ExecuteSub(Interpreter& interpreter, const std::string& name) {
     interpreter.StopBox("Subroutine not found: " + name);
     return;
   }
-  auto end = text.find("EndSub", p);
-  while (end != std::string::npos && !StatementStartAt(text, end, 4)) end = text.find("EndSub", end + 1);
-  std::size_t sliceEnd = text.size();
-  if (end != std::string::npos) {
-    const auto crlf = text.find(kCrLf, end);
-    if (crlf != std::string::npos) sliceEnd = crlf + 2;
-  }
-  RunStatements(interpreter, text.substr(p, sliceEnd - p), 0);
+  RunStatements(interpreter, BlockSlice(text, p, "EndSub"), 0);
 }
 
 namespace {
@@ -170,15 +181,8 @@ FunctionDeclaration ReadDeclaration(Interpreter& interpreter, const std::string&
     interpreter.StopBox("Function not found: " + name);
     Throw(kInvalidCall);
   }
-  auto end = text.find("EndFunction", p);
-  while (end != std::string::npos && !StatementStartAt(text, end, 4)) end = text.find("EndFunction", end + 1);
-  std::size_t sliceEnd = text.size();
-  if (end != std::string::npos) {
-    const auto crlf = text.find(kCrLf, end);
-    if (crlf != std::string::npos) sliceEnd = crlf + 2;
-  }
   FunctionDeclaration declaration;
-  const std::string slice = text.substr(p, sliceEnd - p);
+  const std::string slice = BlockSlice(text, p, "EndFunction");
   const std::string parameterList = Between(slice, slice.find('(') + 1, slice.find(')'));
   declaration.parameters = SplitArguments(interpreter, parameterList, 21, false, declaration.numericFlag);
   // A list whose split runs calls is split anew at each call.
