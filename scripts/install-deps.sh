@@ -9,6 +9,7 @@ packages=(
   libgtest-dev googletest
   fonts-liberation fonts-dejavu-core xvfb xauth locales
   clang libclang-rt-14-dev
+  libqt6sql6-psql libqt6sql6-odbc unixodbc libsqliteodbc odbc-postgresql postgresql python3
 )
 missing=()
 for p in "${packages[@]}"; do

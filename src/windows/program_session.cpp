@@ -7,7 +7,10 @@
 #include <new>
 #include <utility>
 
+#include "bridges/api_command.h"
+#include "bridges/qt_database.h"
 #include "commands/command_families.h"
+#include "commands/sql_command.h"
 #include "core/fault.h"
 #include "windows/about_window.h"
 
@@ -16,6 +19,8 @@ namespace tamrix {
 ProgramSession::ProgramSession(Trace& trace, ScriptedAnswers& answers, AutomationHooks hooks)
     : hooks_(std::move(hooks)), desktop_(janela_), interpreter_(desktop_, trace, answers) {
   RegisterCoreCommandFamilies(interpreter_);
+  RegisterSqlCommand(interpreter_, std::make_shared<QtDatabaseLayer>());
+  RegisterApiCommand(interpreter_, [this] { return static_cast<std::uint64_t>(janela_.winId()); });
   janela_.SetClosingHandler([this] { Close(); });
   desktop_.Relay().Attach(interpreter_, [this](const std::function<void()>& work) { Guarded(work); });
   desktop_.SetLanguageTickHandler([this] { Guarded([this] { interpreter_.OnLanguageTimerTick(); }); });
