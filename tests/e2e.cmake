@@ -38,3 +38,8 @@ if(TAMRIX_XVFB_RUN)
     set_tests_properties(examples_on_xvfb.${example} PROPERTIES TIMEOUT 90)
   endforeach()
 endif()
+
+# The library whose functions the API command's case calls, built where the
+# case finds it: two folders above the folder that it runs in.
+add_library(tamrix_api_test SHARED ${CMAKE_CURRENT_SOURCE_DIR}/api/api_test_library.cpp)
+set_target_properties(tamrix_api_test PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR})
