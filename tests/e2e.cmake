@@ -43,3 +43,10 @@ endif()
 # case finds it: two folders above the folder that it runs in.
 add_library(tamrix_api_test SHARED ${CMAKE_CURRENT_SOURCE_DIR}/api/api_test_library.cpp)
 set_target_properties(tamrix_api_test PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR})
+
+# The SQL cases on SQLite through ODBC and on a throwaway PostgreSQL server,
+# natively and through ODBC, and two programs writing one table at once.
+add_test(NAME e2e.sql_servers
+  COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/sql/sql_servers.sh
+    $<TARGET_FILE:tamrix-pack> ${CMAKE_CURRENT_BINARY_DIR}/e2e/sql_servers)
+set_tests_properties(e2e.sql_servers PROPERTIES TIMEOUT 240 SKIP_RETURN_CODE 77)
