@@ -2,7 +2,7 @@
 
 #include <array>
 #include <cctype>
-#include <cstdlib>
+#include <charconv>
 #include <utility>
 
 #include "core/numbers.h"
@@ -48,11 +48,11 @@ bool Compare(const T& a, const T& b, CriteriaOperator op) {
 std::optional<double> PointNumber(std::string_view text) {
   const std::string trimmed = Trim(text);
   if (trimmed.empty()) return std::nullopt;
-  char* end = nullptr;
-  const double value = std::strtod(trimmed.c_str(), &end);
-  if (end != trimmed.c_str() + trimmed.size()) {
-    return ParseRegionalNumber(trimmed);
-  }
+  const char* first = trimmed.data() + (trimmed[0] == '+' ? 1 : 0);
+  const char* last = trimmed.data() + trimmed.size();
+  double value = 0;
+  const auto [end, error] = std::from_chars(first, last, value);
+  if (error != std::errc() || end != last) return ParseRegionalNumber(trimmed);
   return value;
 }
 
