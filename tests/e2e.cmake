@@ -50,3 +50,12 @@ add_test(NAME e2e.sql_servers
   COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/sql/sql_servers.sh
     $<TARGET_FILE:tamrix-pack> ${CMAKE_CURRENT_BINARY_DIR}/e2e/sql_servers)
 set_tests_properties(e2e.sql_servers PROPERTIES TIMEOUT 240 SKIP_RETURN_CODE 77)
+
+# The SQL shop example on a real X display.
+if(TAMRIX_XVFB_RUN)
+  add_test(NAME examples_on_xvfb.sqlshop
+    COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/run_example_on_xvfb.sh
+      $<TARGET_FILE:tamrix-pack> $<TARGET_FILE:tamrix_snapshot_pixels> sqlshop
+      ${CMAKE_CURRENT_BINARY_DIR}/examples/sqlshop)
+  set_tests_properties(examples_on_xvfb.sqlshop PROPERTIES TIMEOUT 90)
+endif()
