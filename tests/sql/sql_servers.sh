@@ -51,6 +51,20 @@ check() {
 run odbc_sqlite "$programs/sql_table.tam" "Driver=SQLite3;Database=odbc.db"
 check odbc_sqlite "$programs/sql_table.expected"
 
+# A host that never answers (or a network that says so at once): the run goes
+# on with the error box within the connection timeout.
+started=$(date +%s)
+run unreachable "$here/unreachable.tam"
+elapsed=$(($(date +%s) - started))
+if grep -q 'SQL Error -2147467259: ' "$work/unreachable/trace.txt" && grep -q 'went on' "$work/unreachable/trace.txt" &&
+  [[ $elapsed -le 20 ]]; then
+  echo "ok: unreachable server, $elapsed s"
+else
+  echo "FAIL: unreachable server ($elapsed s)"
+  cat "$work/unreachable/trace.txt"
+  failures=$((failures + 1))
+fi
+
 bindir=$(ls -d /usr/lib/postgresql/*/bin 2>/dev/null | sort -V | tail -1 || true)
 if [[ -z "$bindir" || ! -x "$bindir/initdb" || ! -x "$bindir/pg_ctl" ]]; then
   echo "SKIP: no PostgreSQL server programs (Debian package postgresql); only the ODBC case ran"
