@@ -50,7 +50,9 @@ class QtConnection : public DbConnection {
     if (!query.exec(SqlText(command))) ThrowSqlError(query.lastError());
   }
 
-  void SetCursorLocation(CursorLocation location) override { location_ = location; }
+  // Both locations give the same recordsets: a scrollable one is read whole
+  // at its OPEN, a forward-only one row by row from the server.
+  void SetCursorLocation(CursorLocation) override {}
 
   std::unique_ptr<DbRecordset> OpenRecordset(const std::string& source, CursorType cursor, LockType lock) override {
     return std::make_unique<QtRecordset>(OpenDatabase(), SqlText(source), cursor, lock);
@@ -98,8 +100,6 @@ class QtConnection : public DbConnection {
   }
 
   QString name_;
-  // Kept for the program; client and server cursors give the same recordsets.
-  CursorLocation location_ = CursorLocation::Server;
 };
 
 }  // namespace

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QString>
-#include <QVariant>
 #include <memory>
 
 #include "data/database_layer.h"

@@ -359,9 +359,11 @@ QtRecordset::Row& QtRecordset::CurrentRow() {
 }
 
 int QtRecordset::FieldIndex(const std::string& name) const {
-  const int field = fields_.indexOf(SqlText(Trim(name)));
-  if (field < 0) ThrowDatabaseFault(kItemNotFound);
-  return field;
+  const std::string key = Upper(Trim(name));
+  auto place = fieldPlaces_.find(key);
+  if (place == fieldPlaces_.end()) place = fieldPlaces_.emplace(key, fields_.indexOf(SqlText(Trim(name)))).first;
+  if (place->second < 0) ThrowDatabaseFault(kItemNotFound);
+  return place->second;
 }
 
 std::string QtRecordset::ReadField(const std::string& name) {

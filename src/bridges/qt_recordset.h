@@ -11,6 +11,8 @@
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QVariant>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "data/database_layer.h"
@@ -64,6 +66,8 @@ class QtRecordset : public DbRecordset {
   QSqlDatabase db_;
   QSqlQuery live_;  // forward-only cursors read from it
   QSqlRecord fields_;
+  // Field places by upper-cased name, as programs read fields in loops.
+  mutable std::unordered_map<std::string, int> fieldPlaces_;
   QString table_;           // the table that edits go to; empty when none
   QList<int> keyFields_;    // fields that find a row again
   bool forwardOnly_ = false;
