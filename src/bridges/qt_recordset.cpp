@@ -1,6 +1,7 @@
 #include "bridges/qt_recordset.h"
 
 #include <QDate>
+#include <algorithm>
 #include <QDateTime>
 #include <QRegularExpression>
 #include <QSqlDriver>
@@ -80,6 +81,7 @@ QtRecordset::QtRecordset(QSqlDatabase db, const QString& source, CursorType curs
   if (!live_.exec(bareName ? QStringLiteral("SELECT * FROM ") + text : text)) ThrowSqlError(live_.lastError());
   if (!live_.isSelect()) ThrowDatabaseFault(kObjectClosed);
   fields_ = live_.record();
+  width_ = fields_.count();
   if (forwardOnly_) {
     FetchLive();
     return;
@@ -104,26 +106,24 @@ QtRecordset::QtRecordset(QSqlDatabase db, const QString& source, CursorType curs
 }
 
 void QtRecordset::LoadRows(QSqlQuery& query) {
-  const int count = fields_.count();
   while (query.next()) {
-    Row row;
-    row.values.reserve(count);
-    for (int i = 0; i < count; ++i) row.values.append(query.value(i));
-    rows_.push_back(std::move(row));
+    for (int i = 0; i < width_; ++i) cells_.push_back(query.value(i));
+    deleted_.push_back(0);
   }
   if (query.lastError().isValid()) ThrowSqlError(query.lastError());
 }
 
 bool QtRecordset::FetchLive() {
   if (live_.next()) {
-    Row row;
-    for (int i = 0; i < fields_.count(); ++i) row.values.append(live_.value(i));
-    rows_.assign(1, std::move(row));
+    cells_.clear();
+    for (int i = 0; i < width_; ++i) cells_.push_back(live_.value(i));
+    deleted_.assign(1, 0);
     SetPosition(0);
     return true;
   }
   if (live_.lastError().isValid()) ThrowSqlError(live_.lastError());
-  rows_.clear();
+  cells_.clear();
+  deleted_.clear();
   position_ = 0;
   eof_ = true;
   bof_ = liveMoves_ == 0;
@@ -138,11 +138,11 @@ void QtRecordset::SetPosition(long index) {
 
 long QtRecordset::NextLive(long from, int step) const {
   long i = from + step;
-  while (i >= 0 && i < static_cast<long>(rows_.size()) && rows_[static_cast<std::size_t>(i)].deleted) i += step;
+  while (i >= 0 && i < RowCount() && deleted_[static_cast<std::size_t>(i)]) i += step;
   return i;
 }
 
-bool QtRecordset::HasLiveRows() const { return NextLive(-1, 1) < static_cast<long>(rows_.size()); }
+bool QtRecordset::HasLiveRows() const { return NextLive(-1, 1) < RowCount(); }
 
 void QtRecordset::SaveBeforeMove() {
   if (edit_ != Edit::None) Update();
@@ -156,14 +156,14 @@ void QtRecordset::MoveFirst() {
   }
   SaveBeforeMove();
   const long first = NextLive(-1, 1);
-  if (first >= static_cast<long>(rows_.size())) ThrowDatabaseFault(kNoCurrentRecord);
+  if (first >= RowCount()) ThrowDatabaseFault(kNoCurrentRecord);
   SetPosition(first);
 }
 
 void QtRecordset::MoveLast() {
   if (forwardOnly_) ThrowDatabaseFault(kCannotFetchBackward);
   SaveBeforeMove();
-  const long last = NextLive(static_cast<long>(rows_.size()), -1);
+  const long last = NextLive(RowCount(), -1);
   if (last < 0) ThrowDatabaseFault(kNoCurrentRecord);
   SetPosition(last);
 }
@@ -177,8 +177,8 @@ void QtRecordset::MoveNext() {
   }
   SaveBeforeMove();
   const long next = NextLive(position_, 1);
-  if (next >= static_cast<long>(rows_.size())) {
-    position_ = static_cast<long>(rows_.size());
+  if (next >= RowCount()) {
+    position_ = RowCount();
     eof_ = true;
     bof_ = false;
   } else {
@@ -203,17 +203,16 @@ void QtRecordset::MovePrevious() {
 void QtRecordset::AddNew() {
   RequireEditable();
   SaveBeforeMove();
-  Row row;
-  for (int i = 0; i < fields_.count(); ++i) row.values.append(QVariant());
-  rows_.push_back(std::move(row));
-  SetPosition(static_cast<long>(rows_.size()) - 1);
+  cells_.resize(cells_.size() + static_cast<std::size_t>(width_));
+  deleted_.push_back(0);
+  SetPosition(RowCount() - 1);
   edit_ = Edit::Added;
   changed_.assign(static_cast<std::size_t>(fields_.count()), false);
 }
 
 void QtRecordset::Update() {
   if (edit_ == Edit::None) return;
-  Row& row = rows_[static_cast<std::size_t>(position_)];
+  const long row = position_;
   const Edit edit = edit_;
   // A save that fails drops the edit, so that the next move is not refused
   // for the same reason.
@@ -226,18 +225,16 @@ void QtRecordset::Update() {
     }
   } catch (const RuntimeFault&) {
     if (edit == Edit::Added) {
-      rows_.pop_back();
-      position_ = static_cast<long>(rows_.size());
-      eof_ = true;
-      bof_ = false;
+      DropAddedRow();
     } else {
-      row.values = original_;
+      std::copy(original_.begin(), original_.end(), Cells(row));
     }
     throw;
   }
 }
 
-void QtRecordset::Insert(Row& row) {
+void QtRecordset::Insert(long row) {
+  QVariant* values = Cells(row);
   QStringList names;
   QStringList marks;
   for (int i = 0; i < fields_.count(); ++i) {
@@ -253,7 +250,7 @@ void QtRecordset::Insert(Row& row) {
   QSqlQuery query(db_);
   if (!query.prepare(sql)) ThrowSqlError(query.lastError());
   for (int i = 0; i < fields_.count(); ++i) {
-    if (changed_[static_cast<std::size_t>(i)]) query.addBindValue(row.values[i]);
+    if (changed_[static_cast<std::size_t>(i)]) query.addBindValue(values[i]);
   }
   if (!query.exec()) ThrowSqlError(query.lastError());
   // The stored row, with its defaults and generated keys.
@@ -261,22 +258,23 @@ void QtRecordset::Insert(Row& row) {
     const QSqlRecord stored = query.record();
     for (int i = 0; i < fields_.count(); ++i) {
       const int j = stored.indexOf(fields_.fieldName(i));
-      if (j >= 0) row.values[i] = query.value(j);
+      if (j >= 0) values[i] = query.value(j);
     }
   }
 }
 
-void QtRecordset::UpdateRow(Row& row) {
+void QtRecordset::UpdateRow(long row) {
+  const QVariant* values = Cells(row);
   QStringList sets;
   QList<QVariant> bound;
   for (int i = 0; i < fields_.count(); ++i) {
     if (!changed_[static_cast<std::size_t>(i)]) continue;
     sets << FieldName(i) + QStringLiteral(" = ?");
-    bound << row.values[i];
+    bound << values[i];
   }
   if (sets.isEmpty()) return;
   const QString sql = QStringLiteral("UPDATE ") + table_ + QStringLiteral(" SET ") + sets.join(QStringLiteral(", ")) +
-                      KeyCondition(original_, bound);
+                      KeyCondition(original_.data(), bound);
   QSqlQuery query(db_);
   if (!query.prepare(sql)) ThrowSqlError(query.lastError());
   for (const QVariant& value : bound) query.addBindValue(value);
@@ -292,19 +290,16 @@ void QtRecordset::Delete() {
   if (edit_ == Edit::Added) {
     // The new record was never stored: it is simply dropped.
     edit_ = Edit::None;
-    rows_.pop_back();
-    position_ = static_cast<long>(rows_.size());
-    eof_ = true;
-    bof_ = false;
+    DropAddedRow();
     return;
   }
-  Row& row = CurrentRow();
+  const long row = CurrentRow();
   if (edit_ == Edit::Changed) {
-    row.values = original_;
+    std::copy(original_.begin(), original_.end(), Cells(row));
     edit_ = Edit::None;
   }
   QList<QVariant> bound;
-  const QString sql = QStringLiteral("DELETE FROM ") + table_ + KeyCondition(row.values, bound);
+  const QString sql = QStringLiteral("DELETE FROM ") + table_ + KeyCondition(Cells(row), bound);
   QSqlQuery query(db_);
   if (!query.prepare(sql)) ThrowSqlError(query.lastError());
   for (const QVariant& value : bound) query.addBindValue(value);
@@ -313,27 +308,35 @@ void QtRecordset::Delete() {
     throw RuntimeFault(kRowNotFound,
                        "Row cannot be located for updating. Some values may have been changed since it was last read.");
   }
-  row.deleted = true;
+  deleted_[static_cast<std::size_t>(row)] = 1;
+}
+
+void QtRecordset::DropAddedRow() {
+  cells_.resize(cells_.size() - static_cast<std::size_t>(width_));
+  deleted_.pop_back();
+  position_ = RowCount();
+  eof_ = true;
+  bof_ = false;
 }
 
 void QtRecordset::Find(const std::string& criteria) {
   const std::optional<FindCriteria> wanted = ReadFindCriteria(criteria);
   if (!wanted) ThrowDatabaseFault(kBadArguments);
   const int field = FieldIndex(wanted->field);
-  const auto matches = [&](const Row& row) {
-    const QVariant& value = row.values[field];
+  const auto matches = [&](long row) {
+    const QVariant& value = Cells(row)[field];
     const bool isNull = !value.isValid() || value.isNull();
     return MatchesCriteria(*wanted, isNull ? std::string() : LanguageText(value.toString()), isNull);
   };
   if (eof_) return;
   if (forwardOnly_) {
-    while (!eof_ && !matches(rows_.front())) MoveNext();
+    while (!eof_ && !matches(0)) MoveNext();
     return;
   }
   SaveBeforeMove();
-  const long size = static_cast<long>(rows_.size());
+  const long size = RowCount();
   for (long i = position_ < 0 ? NextLive(-1, 1) : position_; i < size; i = NextLive(i, 1)) {
-    if (!rows_[static_cast<std::size_t>(i)].deleted && matches(rows_[static_cast<std::size_t>(i)])) {
+    if (!deleted_[static_cast<std::size_t>(i)] && matches(i)) {
       SetPosition(i);
       return;
     }
@@ -345,17 +348,14 @@ void QtRecordset::Find(const std::string& criteria) {
 
 long QtRecordset::RecordCount() {
   if (forwardOnly_) return -1;
-  long count = 0;
-  for (const Row& row : rows_) count += row.deleted ? 0 : 1;
-  return count;
+  return static_cast<long>(std::count(deleted_.begin(), deleted_.end(), 0));
 }
 
-QtRecordset::Row& QtRecordset::CurrentRow() {
-  if (eof_ || bof_ || position_ < 0 || position_ >= static_cast<long>(rows_.size()) ||
-      rows_[static_cast<std::size_t>(position_)].deleted) {
+long QtRecordset::CurrentRow() const {
+  if (eof_ || bof_ || position_ < 0 || position_ >= RowCount() || deleted_[static_cast<std::size_t>(position_)]) {
     ThrowDatabaseFault(kNoCurrentRecord);
   }
-  return rows_[static_cast<std::size_t>(position_)];
+  return position_;
 }
 
 int QtRecordset::FieldIndex(const std::string& name) const {
@@ -368,20 +368,20 @@ int QtRecordset::FieldIndex(const std::string& name) const {
 
 std::string QtRecordset::ReadField(const std::string& name) {
   const int field = FieldIndex(name);
-  return LanguageValue(CurrentRow().values[field]);
+  return LanguageValue(Cells(CurrentRow())[field]);
 }
 
 void QtRecordset::WriteField(const std::string& name, const Value& value) {
   RequireEditable();
   const int field = FieldIndex(name);
-  Row& row = CurrentRow();
+  const long row = CurrentRow();
   QVariant converted = Converted(field, value);
   if (edit_ == Edit::None) {
     edit_ = Edit::Changed;
-    original_ = row.values;
-    changed_.assign(static_cast<std::size_t>(fields_.count()), false);
+    original_.assign(Cells(row), Cells(row) + width_);
+    changed_.assign(static_cast<std::size_t>(width_), false);
   }
-  row.values[field] = std::move(converted);
+  Cells(row)[field] = std::move(converted);
   changed_[static_cast<std::size_t>(field)] = true;
 }
 
@@ -409,7 +409,7 @@ QVariant QtRecordset::Converted(int field, const Value& value) const {
   return QVariant(number);
 }
 
-QString QtRecordset::KeyCondition(const QList<QVariant>& values, QList<QVariant>& bound) const {
+QString QtRecordset::KeyCondition(const QVariant* values, QList<QVariant>& bound) const {
   QStringList parts;
   for (int field : keyFields_) {
     if (!values[field].isValid() || values[field].isNull()) {
@@ -428,7 +428,8 @@ QString QtRecordset::FieldName(int field) const {
 
 void QtRecordset::Close() {
   live_.finish();
-  rows_.clear();
+  cells_.clear();
+  deleted_.clear();
   edit_ = Edit::None;
   bof_ = true;
   eof_ = true;

@@ -40,10 +40,6 @@ class QtRecordset : public DbRecordset {
 
  private:
   enum class Edit { None, Changed, Added };
-  struct Row {
-    QList<QVariant> values;
-    bool deleted = false;
-  };
 
   void LoadRows(QSqlQuery& query);
   bool FetchLive();
@@ -53,14 +49,19 @@ class QtRecordset : public DbRecordset {
   void SetPosition(long index);
   long NextLive(long from, int step) const;
   bool HasLiveRows() const;
-  Row& CurrentRow();
+  long RowCount() const { return static_cast<long>(deleted_.size()); }
+  QVariant* Cells(long row) { return cells_.data() + static_cast<std::size_t>(row) * static_cast<std::size_t>(width_); }
+  // The current row, which must be there and not deleted.
+  long CurrentRow() const;
   int FieldIndex(const std::string& name) const;
   void RequireEditable() const;
   QVariant Converted(int field, const Value& value) const;
-  void Insert(Row& row);
-  void UpdateRow(Row& row);
+  // Takes back a new row that was never stored; the cursor ends past the end.
+  void DropAddedRow();
+  void Insert(long row);
+  void UpdateRow(long row);
   // " WHERE k1 = ? AND ...", with its values added to `bound`.
-  QString KeyCondition(const QList<QVariant>& values, QList<QVariant>& bound) const;
+  QString KeyCondition(const QVariant* values, QList<QVariant>& bound) const;
   QString FieldName(int field) const;
 
   QSqlDatabase db_;
@@ -73,13 +74,16 @@ class QtRecordset : public DbRecordset {
   bool forwardOnly_ = false;
   bool readOnly_ = false;
   bool returning_ = false;  // INSERT ... RETURNING * gives the stored row
-  std::vector<Row> rows_;
+  int width_ = 0;  // fields per row
+  // The rows' values, row after row, and a deleted mark per row.
+  std::vector<QVariant> cells_;
+  std::vector<char> deleted_;
   long position_ = -1;
   bool bof_ = true;
   bool eof_ = true;
   long liveMoves_ = 0;
   Edit edit_ = Edit::None;
-  QList<QVariant> original_;
+  std::vector<QVariant> original_;  // the changed row as it was read
   std::vector<bool> changed_;
 };
 
