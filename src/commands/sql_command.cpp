@@ -309,15 +309,6 @@ Value RunSqlAssignment(Interpreter& in, const std::string& expr) {
 
 }  // namespace
 
-void SqlState::CloseAll() {
-  for (SqlConnectionSlot& slot : connections) {
-    for (SqlTableSlot& table : slot.tables) table.recordset.reset();
-    if (!slot.name.empty() && slot.connection) slot.connection->Close();
-    slot.connection.reset();
-    slot.name.clear();
-  }
-}
-
 void RegisterSqlCommand(Interpreter& interpreter, std::shared_ptr<DatabaseLayer> layer) {
   auto state = std::make_shared<SqlState>(std::move(layer));
   interpreter.Commands().Register("SQL", GuardForm::None,
