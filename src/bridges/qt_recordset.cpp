@@ -1,7 +1,6 @@
 #include "bridges/qt_recordset.h"
 
 #include <QDate>
-#include <algorithm>
 #include <QDateTime>
 #include <QRegularExpression>
 #include <QSqlDriver>
@@ -9,6 +8,7 @@
 #include <QSqlField>
 #include <QSqlIndex>
 #include <QTime>
+#include <algorithm>
 
 #include "bridges/qt_database.h"
 #include "core/fault.h"
@@ -18,8 +18,6 @@
 
 namespace tamrix {
 namespace {
-
-constexpr long kRowNotFound = -2147217864;
 
 bool IsIntegralType(int id) {
   switch (id) {
@@ -90,6 +88,7 @@ QtRecordset::QtRecordset(QSqlDatabase db, const QString& source, CursorType curs
   live_.finish();
   if (HasLiveRows()) SetPosition(0);
   if (!readOnly_ && !table_.isEmpty()) {
+    // A key that the query leaves out can't find its rows: no edits then.
     const QSqlIndex primary = db_.primaryIndex(table_);
     for (int i = 0; i < primary.count(); ++i) {
       const int field = fields_.indexOf(primary.fieldName(i));
@@ -99,8 +98,8 @@ QtRecordset::QtRecordset(QSqlDatabase db, const QString& source, CursorType curs
       }
       keyFields_.append(field);
     }
-    if (keyFields_.isEmpty()) {
-      for (int i = 0; i < fields_.count(); ++i) keyFields_.append(i);
+    if (primary.isEmpty()) {
+      for (int i = 0; i < width_; ++i) keyFields_.append(i);
     }
   }
 }
@@ -280,8 +279,7 @@ void QtRecordset::UpdateRow(long row) {
   for (const QVariant& value : bound) query.addBindValue(value);
   if (!query.exec()) ThrowSqlError(query.lastError());
   if (query.numRowsAffected() == 0) {
-    throw RuntimeFault(kRowNotFound,
-                       "Row cannot be located for updating. Some values may have been changed since it was last read.");
+    ThrowDatabaseFault(kRowNotFound);
   }
 }
 
@@ -305,8 +303,7 @@ void QtRecordset::Delete() {
   for (const QVariant& value : bound) query.addBindValue(value);
   if (!query.exec()) ThrowSqlError(query.lastError());
   if (query.numRowsAffected() == 0) {
-    throw RuntimeFault(kRowNotFound,
-                       "Row cannot be located for updating. Some values may have been changed since it was last read.");
+    ThrowDatabaseFault(kRowNotFound);
   }
   deleted_[static_cast<std::size_t>(row)] = 1;
 }

@@ -18,6 +18,8 @@ std::string DatabaseFaultDescription(long number) {
     case kIllegalOperation: return "Operation is not allowed in this context.";
     case kObjectClosed: return "Operation is not allowed when the object is closed.";
     case kCannotFetchBackward: return "Rowset does not support fetching backward.";
+    case kRowNotFound:
+      return "Row cannot be located for updating. Some values may have been changed since it was last read.";
     default: return FaultDescription(number);
   }
 }

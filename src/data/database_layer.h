@@ -20,6 +20,7 @@ enum DatabaseFault : long {
   kIllegalOperation = 3219,
   kObjectClosed = 3704,
   kCannotFetchBackward = -2147217884,
+  kRowNotFound = -2147217864,  // an edit whose row is gone or changed
   kProviderError = -2147467259,  // the database's own message
 };
 

@@ -103,9 +103,10 @@ TEST_F(QtRecordsetTest, ATableWithoutAKeyFindsItsRowsByAllTheirFields) {
   EXPECT_EQ(Scalar("SELECT group_concat(coalesce(name, '-') || qty) FROM loose"), QStringLiteral("b2,-30"));
 }
 
-TEST_F(QtRecordsetTest, JoinsGroupsAndReadOnlyLocksCantBeEdited) {
+TEST_F(QtRecordsetTest, JoinsGroupsKeylessQueriesAndReadOnlyLocksCantBeEdited) {
   for (const char* source : {"SELECT i.name FROM items i JOIN loose l ON l.qty = i.qty",
-                             "SELECT qty, count(*) FROM items GROUP BY qty", "SELECT 1 + 1"}) {
+                             "SELECT qty, count(*) FROM items GROUP BY qty", "SELECT 1 + 1",
+                             "SELECT name FROM items"}) {
     QtRecordset rs = Open(source);
     EXPECT_EQ(FaultOf([&] { rs.AddNew(); }), kCannotUpdate) << source;
   }
