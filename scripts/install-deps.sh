@@ -9,6 +9,7 @@ packages=(
   libgtest-dev googletest
   fonts-liberation fonts-dejavu-core xvfb xauth locales
   clang libclang-rt-14-dev
+  dpkg-dev libkf5syntaxhighlighting-tools python3
 )
 missing=()
 for p in "${packages[@]}"; do
