@@ -21,15 +21,19 @@ name=$(basename "$page" .md)
 rm -rf "$work"
 mkdir -p "$work/cases"
 
-# Writes each example's blocks to cases/<n>.tam, <n>.expected, ... and
-# prints the first source line of each case.
+# Writes each example's blocks to cases/<n>/guide.tam, guide.expected, ...
+# (every example is a program named GUIDE, the title of its boxes) and
+# lists each case with the line of the page where it starts.
 awk -v dir="$work/cases" '
   function close_case() { if (n > 0) closed[n] = 1 }
-  /^```tamrix[ \t]*$/ { close_case(); n++; out = dir "/" n ".tam"; printf "" > out; lines[n] = NR; inside = 1; next }
+  /^```tamrix[ \t]*$/ {
+    close_case(); n++; system("mkdir -p \"" dir "/" n "\"")
+    out = dir "/" n "/guide.tam"; printf "" > out; lines[n] = NR; inside = 1; next
+  }
   /^```(trace|input|answers)[ \t]*$/ && n > 0 && !closed[n] {
     kind = substr($0, 4); sub(/[ \t]+$/, "", kind)
     ext = kind == "trace" ? "expected" : kind
-    out = dir "/" n "." ext; printf "" > out; inside = 1; next
+    out = dir "/" n "/guide." ext; printf "" > out; inside = 1; next
   }
   /^```/ && inside { inside = 0; close(out); next }
   /^```/ { close_case(); next }
@@ -44,7 +48,7 @@ failed=0
 count=0
 while read -r n line; do
   count=$((count + 1))
-  case_path="$work/cases/$n"
+  case_path="$work/cases/$n/guide"
   if [[ ! -f "$case_path.expected" ]]; then
     echo "FAIL: $page:$line: the example has no trace block"
     failed=1
