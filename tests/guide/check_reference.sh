@@ -16,16 +16,16 @@ reference=$3
 handled=$("$handlers_tool")
 failed=0
 while IFS= read -r keyword; do
-  entries=$(cat "$reference"/*.md | grep -cxF "### $keyword" || true)
+  entries=$(cat "$reference"/*.md | grep -cxF -- "### $keyword" || true)
   if [[ $entries -ne 1 ]]; then
     echo "FAIL: the keyword $keyword has $entries reference entries, not 1"
     failed=1
     continue
   fi
-  entry=$(cat "$reference"/*.md | awk -v head="### $keyword" '
+  entry=$(awk -v head="### $keyword" '
     $0 == head { inside = 1; next }
-    inside && /^#/ { exit }
-    inside { print }')
+    inside && /^#/ { inside = 0 }
+    inside { print }' "$reference"/*.md)
   if grep -q "Not available yet" <<<"$entry"; then
     if grep -qxF "$keyword" <<<"$handled"; then
       echo "FAIL: $keyword works in this version, but its entry says it is not available yet"
