@@ -5,6 +5,7 @@
 #include <map>
 #include <set>
 #include <string_view>
+#include <utility>
 
 #include "core/block_linking.h"
 #include "core/keywords.h"
@@ -104,6 +105,7 @@ class Checker {
 
   std::vector<CheckFinding> Run() {
     CollectDeclarations();
+    CheckFieldNames();
     CheckBlockBalance();
     CheckProcedures();
     CheckStatements();
@@ -131,7 +133,9 @@ class Checker {
         if (StartsWith(s.upper, "ENDDB")) {
           database.clear();
         } else {
-          variables_.insert(database + "." + Upper(Trim(s.text.substr(0, s.text.find(',')))));
+          const std::string field = Upper(Trim(s.text.substr(0, s.text.find(','))));
+          variables_.insert(database + "." + field);
+          fieldLines_.push_back({i, field});
         }
         dbLines_.insert(i);
         continue;
@@ -155,6 +159,17 @@ class Checker {
       } else if (StartsWith(s.text, "Sub ")) {
         const auto close = s.text.find(')');
         if (close != std::string::npos) subs_.push_back(s.text.substr(4, close - 3));
+      }
+    }
+  }
+
+  // The parts of a DB line are evaluated: a field named like a variable
+  // takes that variable's value as its name.
+  void CheckFieldNames() {
+    for (const auto& [index, field] : fieldLines_) {
+      if (variables_.count(field) != 0) {
+        Report(statements_[index], "the field " + field +
+                                       " is named like a variable, whose value becomes the field's name");
       }
     }
   }
@@ -387,6 +402,7 @@ class Checker {
   std::vector<std::string> functions_;  // as declared
   std::vector<std::string> subs_;       // with their brackets, as declared
   std::set<std::size_t> dbLines_;
+  std::vector<std::pair<std::size_t, std::string>> fieldLines_;  // statement, upper-cased field
 };
 
 }  // namespace

@@ -7,7 +7,7 @@
 # make its case: `trace` (required: the trace the run must write), and
 # optionally `input` (replayed user input) and `answers` (box answers).
 # Each case runs through tests/run_program.sh, the runner of the end-to-end
-# tests. A `tamrix` block without its trace fails: every example runs.
+# tests, and tamrix-pack --check must find nothing in it. A `tamrix` block without its trace fails: every example runs.
 set -euo pipefail
 
 stub=$1
@@ -53,6 +53,11 @@ while read -r n line; do
     echo "FAIL: $page:$line: the example has no trace block"
     failed=1
     continue
+  fi
+  # The checker must agree that the example is sound.
+  if ! findings=$("$packer" --check "$case_path.tam"); then
+    echo "FAIL: $page:$line: tamrix-pack --check finds: $findings"
+    failed=1
   fi
   if ! bash "$runner" "$stub" "$packer" "$case_path" "$work/run/$n" $pixel_checker >"$work/$n.log" 2>&1; then
     echo "FAIL: $page:$line:"
