@@ -130,7 +130,7 @@ class Checker {
       for (const auto& word : Words(s.text)) ++wordCounts_[Upper(word)];
       const std::string first = Upper(FirstWord(s.text));
       if (!database.empty()) {
-        if (StartsWith(s.upper, "ENDDB")) {
+        if (StartsWith(s.text, "EndDB")) {  // spelt exactly so, as the run-time reads it
           database.clear();
         } else {
           const std::string field = Upper(Trim(s.text.substr(0, s.text.find(','))));

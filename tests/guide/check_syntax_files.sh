@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Regenerates the editor definitions and compares them with editors/; then,
-# where kate-syntax-highlighter is installed, colours a sample with the
-# KSyntaxHighlighting definition and checks the format of each kind of word.
+# Regenerates the editor definitions and compares them with editors/, tries
+# the TextMate grammar's rules on samples, and, where kate-syntax-highlighter
+# is installed, colours a sample with the KSyntaxHighlighting definition and
+# checks the format of each kind of word.
 #
 #   check_syntax_files.sh <tamrix-syntax> <editors-folder> <work-folder>
 set -euo pipefail
@@ -22,7 +23,7 @@ for file in tamrix.xml tamrix.tmLanguage.json; do
     failed=1
   fi
 done
-python3 -m json.tool "$work/tamrix.tmLanguage.json" >/dev/null || { echo "FAIL: the grammar is no JSON"; failed=1; }
+python3 "$(dirname "$0")/textmate_rules.py" "$work/tamrix.tmLanguage.json" || failed=1
 [[ $failed -eq 0 ]] || exit 1
 
 if ! command -v kate-syntax-highlighter >/dev/null; then
