@@ -71,8 +71,9 @@ Exit status: 0 when packed; 2 when nothing was written (a bad argument, a
 missing or unreadable file, more than seven units, a name that cannot be
 stored, text without a Windows-1252 form, no run-time beside tamrix-pack).
 With --check: 0 when nothing was found, 1 when something was, 2 when the
-program could not be read. With --run: the program's exit status, 128 + n when signal n ended it, 2 when
-it could not be packed, 127 when it could not be started.
+program could not be read. With --run: the program's exit status, 128 + n
+when signal n ended it, 2 when it could not be packed, 127 when it could not
+be started.
 )";
 
 // A mistake in the command line itself; the message points to --help.

@@ -133,8 +133,8 @@ class Checker {
         if (StartsWith(s.text, "EndDB")) {  // spelt exactly so, as the run-time reads it
           database.clear();
         } else {
-          const std::string field = Upper(Trim(s.text.substr(0, s.text.find(','))));
-          variables_.insert(database + "." + field);
+          const std::string field = Trim(s.text.substr(0, s.text.find(',')));
+          variables_.insert(database + "." + Upper(field));
           fieldLines_.push_back({i, field});
         }
         dbLines_.insert(i);
@@ -167,7 +167,7 @@ class Checker {
   // takes that variable's value as its name.
   void CheckFieldNames() {
     for (const auto& [index, field] : fieldLines_) {
-      if (variables_.count(field) != 0) {
+      if (variables_.count(Upper(field)) != 0) {
         Report(statements_[index], "the field " + field +
                                        " is named like a variable, whose value becomes the field's name");
       }
@@ -402,7 +402,7 @@ class Checker {
   std::vector<std::string> functions_;  // as declared
   std::vector<std::string> subs_;       // with their brackets, as declared
   std::set<std::size_t> dbLines_;
-  std::vector<std::pair<std::size_t, std::string>> fieldLines_;  // statement, upper-cased field
+  std::vector<std::pair<std::size_t, std::string>> fieldLines_;  // statement, field as written
 };
 
 }  // namespace
