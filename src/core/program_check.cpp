@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
 #include <map>
 #include <set>
 #include <string_view>
@@ -272,7 +273,7 @@ class Checker {
       }
       if (dbLines_.count(i) != 0) continue;
       if (const auto p = s.text.find("GoTo"); p != std::string::npos) {
-        CheckJump(s, p, std::string_view(prepared_).substr(sliceStart, sliceEnd - sliceStart));
+        CheckJump(s, p, std::string_view(prepared_).substr(sliceStart, sliceEnd - sliceStart), sliceStart);
       }
       CheckCalls(s);
       if (!TakenByAForm(s)) CheckStatementWord(s);
@@ -291,14 +292,31 @@ class Checker {
   }
 
   // The label is everything behind "GoTo ", searched with its colon in the
-  // text that runs; a GoTo in a literal jumps all the same.
-  void CheckJump(const Statement& s, std::size_t p, std::string_view slice) {
+  // text that runs; a GoTo in a literal jumps all the same. The first
+  // occurrence wins, also inside a longer label or a literal.
+  void CheckJump(const Statement& s, std::size_t p, std::string_view slice, std::size_t sliceStart) {
     const std::string label = p + 5 <= s.text.size() ? s.text.substr(p + 5) : std::string();
     if (EndsWith(label, ":")) {
       Report(s, "GoTo: Label can't have character : (colon)!");
-    } else if (slice.find(label + ":") == std::string_view::npos) {
-      Report(s, "GoTo: Label not found: " + label + ":");
+      return;
     }
+    const auto found = slice.find(label + ":");
+    if (found == std::string_view::npos) {
+      Report(s, "GoTo: Label not found: " + label + ":");
+      return;
+    }
+    const Statement& target = StatementAt(sliceStart + found);
+    if (target.text != label + ":") {
+      Report(s, "GoTo " + label + " lands on \"" + target.text + "\" (unit " + std::to_string(target.unit) +
+                    ", line " + std::to_string(target.line) + "), where \"" + label + ":\" stands first");
+    }
+  }
+
+  // The statement whose line holds position `at` of the prepared text.
+  const Statement& StatementAt(std::size_t at) const {
+    auto next = std::upper_bound(statements_.begin(), statements_.end(), at,
+                                 [](std::size_t position, const Statement& s) { return position < s.offset; });
+    return *std::prev(next);
   }
 
   // The control forms that the executor takes before the statement dispatch.
