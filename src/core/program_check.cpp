@@ -149,7 +149,7 @@ class Checker {
         database = Upper(Trim(s.text.substr(2, s.text.find(',') - 2)));
         databases_.insert(database);
         dbLines_.insert(i);
-      } else if (StartsWith(s.upper, "FUNCTION ")) {
+      } else if (OpensFunction(s)) {
         const auto open = s.text.find('(');
         const auto close = s.text.find(')');
         if (open == std::string::npos || close == std::string::npos || close < open) continue;
@@ -157,7 +157,7 @@ class Checker {
         for (const auto& item : SplitList(s.text.substr(open + 1, close - open - 1))) {
           if (!item.empty()) variables_.insert(DeclaredName(item));
         }
-      } else if (StartsWith(s.text, "Sub ")) {
+      } else if (OpensSub(s)) {
         const auto close = s.text.find(')');
         if (close != std::string::npos) subs_.push_back(s.text.substr(4, close - 3));
       }
@@ -226,30 +226,33 @@ class Checker {
   // A Function or Sub whose end word does not come before the next
   // declaration of its kind stops the run before it starts.
   void CheckProcedures() {
-    const Statement* openFunction = nullptr;
-    const Statement* openSub = nullptr;
+    CheckProcedureKind(OpensFunction, EndsFunction, "Function without its command EndFunction: ");
+    CheckProcedureKind(OpensSub, EndsSub, "Sub without its command EndSub: ");
+  }
+
+  using StatementTest = bool (*)(const Statement&);
+
+  void CheckProcedureKind(StatementTest opens, StatementTest ends, const std::string& missingEnd) {
+    const Statement* open = nullptr;
     for (const auto& s : statements_) {
-      if (StartsWith(s.upper, "FUNCTION ")) {
-        if (openFunction) ReportMissingEnd(*openFunction, "Function without its command EndFunction: ");
-        openFunction = &s;
+      if (opens(s)) {
+        if (open) ReportMissingEnd(*open, missingEnd);
+        open = &s;
         if (s.text.find('(') == std::string::npos || s.text.find(')') == std::string::npos) {
           Report(s, "Error creating function or subroutine: the declaration needs its parentheses");
         }
-      } else if (StartsWith(s.upper, "ENDFUNCTION")) {
-        openFunction = nullptr;
-      } else if (StartsWith(s.text, "Sub ")) {
-        if (openSub) ReportMissingEnd(*openSub, "Sub without its command EndSub: ");
-        openSub = &s;
-        if (s.text.find('(') == std::string::npos || s.text.find(')') == std::string::npos) {
-          Report(s, "Error creating function or subroutine: the declaration needs its parentheses");
-        }
-      } else if (StartsWith(s.text, "EndSub")) {
-        openSub = nullptr;
+      } else if (ends(s)) {
+        open = nullptr;
       }
     }
-    if (openFunction) ReportMissingEnd(*openFunction, "Function without its command EndFunction: ");
-    if (openSub) ReportMissingEnd(*openSub, "Sub without its command EndSub: ");
+    if (open) ReportMissingEnd(*open, missingEnd);
   }
+
+  // The declaration scans read "Function" in any case, "Sub" as written.
+  static bool OpensFunction(const Statement& s) { return StartsWith(s.upper, "FUNCTION "); }
+  static bool EndsFunction(const Statement& s) { return StartsWith(s.upper, "ENDFUNCTION"); }
+  static bool OpensSub(const Statement& s) { return StartsWith(s.text, "Sub "); }
+  static bool EndsSub(const Statement& s) { return StartsWith(s.text, "EndSub"); }
 
   void ReportMissingEnd(const Statement& s, const std::string& message) {
     const auto open = s.text.find('(');
@@ -262,9 +265,9 @@ class Checker {
     std::size_t sliceEnd = prepared_.size();
     for (std::size_t i = 0; i < statements_.size(); ++i) {
       const Statement& s = statements_[i];
-      if (StartsWith(s.upper, "FUNCTION ") || StartsWith(s.text, "Sub ")) {
+      if (OpensFunction(s) || OpensSub(s)) {
         sliceStart = s.offset;
-        sliceEnd = SliceEnd(i, StartsWith(s.text, "Sub ") ? "EndSub" : "ENDFUNCTION");
+        sliceEnd = SliceEnd(i, OpensSub(s) ? EndsSub : EndsFunction);
         continue;
       }
       if (s.offset >= sliceEnd) {
@@ -282,11 +285,9 @@ class Checker {
 
   // The end of the text a Function or Sub call cuts out: behind the line of
   // its end word.
-  std::size_t SliceEnd(std::size_t declaration, std::string_view endWord) const {
+  std::size_t SliceEnd(std::size_t declaration, StatementTest ends) const {
     for (std::size_t j = declaration + 1; j < statements_.size(); ++j) {
-      const bool ends = endWord == "EndSub" ? StartsWith(statements_[j].text, "EndSub")
-                                            : StartsWith(statements_[j].upper, endWord);
-      if (ends) return j + 1 < statements_.size() ? statements_[j + 1].offset : prepared_.size();
+      if (ends(statements_[j])) return j + 1 < statements_.size() ? statements_[j + 1].offset : prepared_.size();
     }
     return prepared_.size();
   }
@@ -331,7 +332,7 @@ class Checker {
     for (auto tag : {"While[", "Loop[", "EndIf[", "If[", "Else["}) {
       if (s.text.find(tag) != std::string::npos) return true;
     }
-    return StartsWith(s.upper, "FUNCTION ") || StartsWith(s.text, "Sub ") || StartsWith(s.text, "EndSub");
+    return OpensFunction(s) || OpensSub(s) || EndsSub(s);
   }
 
   bool IsVariable(const std::string& word) const {
