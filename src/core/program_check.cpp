@@ -381,10 +381,23 @@ class Checker {
       auto start = i;
       while (start > 0 && (IsNameChar(code[start - 1]) || code[start - 1] == '.')) --start;
       const std::string name = code.substr(start, i - start);
-      if (std::isdigit(static_cast<unsigned char>(name[0])) != 0 || IsCallable(name)) continue;
-      if (start == 0) continue;  // the statement word: CheckStatementWord names it
-      Report(s, FunctionProblem(name));
+      if (start == 0 || std::isdigit(static_cast<unsigned char>(name[0])) != 0) continue;  // the statement word: CheckStatementWord names it
+      if (const auto spelling = KeywordSpelling(name); !spelling.empty() && spelling != name) {
+        Report(s, "\"" + name + "(\" is no call: keywords are found in expressions as spelt, " + spelling);
+      } else if (!IsCallable(name)) {
+        Report(s, FunctionProblem(name));
+      }
     }
+  }
+
+  // The keyword that `name` spells in any case, as the list spells it, or
+  // nothing.
+  static std::string KeywordSpelling(const std::string& name) {
+    const std::string upper = Upper(name);
+    for (const auto& keyword : KeywordList()) {
+      if (Upper(keyword) == upper) return keyword;
+    }
+    return {};
   }
 
   bool IsCallable(const std::string& name) const {
