@@ -7,10 +7,14 @@
 # By default the package is unpacked into a scratch root (dpkg-deb -x) and
 # apt-get only simulates installing it, which proves that its dependencies
 # resolve on this machine without changing it. With TAMRIX_PACKAGE_INSTALL=
-# system (as root, on a throwaway machine such as CI) it is really
+# system, and by default as root on a CI machine (CI=true), it is really
 # installed with dpkg -i and apt-get -f install, run from /usr/bin, and
 # removed again.
 set -euo pipefail
+
+if [[ -z "${TAMRIX_PACKAGE_INSTALL:-}" && "${CI:-}" == true && $EUID -eq 0 ]]; then
+  TAMRIX_PACKAGE_INSTALL=system
+fi
 
 build=$1
 hello=$2
