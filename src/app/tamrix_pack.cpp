@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -300,7 +301,8 @@ int Check(const Options& options) {
   for (std::size_t i = 0; i < units.size(); ++i) codes[i] = units[i].text;
   const auto findings = CheckProgram(codes);
   for (const auto& finding : findings) {
-    std::cout << options.sources[static_cast<std::size_t>(finding.unit)] << ":" << finding.line << ": "
+    const auto unit = std::min(static_cast<std::size_t>(finding.unit), options.sources.size() - 1);
+    std::cout << options.sources[unit] << ":" << finding.line << ": "
               << Cp1252ToUtf8(finding.message) << "\n";
   }
   return findings.empty() ? 0 : 1;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
 #include <iterator>
 #include <map>
 #include <set>
@@ -37,8 +38,8 @@ std::vector<Statement> ReadStatements(const std::string& prepared) {
     if (line.size() >= kStatementColumn) {
       Statement s;
       s.offset = start;
-      s.line = std::stoi(std::string(line.substr(9, 5))) + 1;
-      s.unit = std::stoi(std::string(line.substr(16, 2)));
+      s.line = std::atoi(std::string(line.substr(9, 5)).c_str()) + 1;
+      s.unit = std::atoi(std::string(line.substr(16, 2)).c_str());
       s.text = std::string(line.substr(kStatementColumn));
       s.upper = Upper(s.text);
       statements.push_back(std::move(s));
