@@ -1,11 +1,12 @@
-// Arbitrary text through preparation, block linking, the block check and
-// the declaration scan.
+// Arbitrary text through preparation, block linking, the block check, the
+// declaration scan and the checker of tamrix-pack --check.
 #include <cstddef>
 #include <cstdint>
 #include <string>
 
 #include "core/block_linking.h"
 #include "core/preparation.h"
+#include "core/program_check.h"
 #include "headless_desktop.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -23,5 +24,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   tamrix::CheckBlocks(text);
   tamrix::testing::ProgramRun run;
   run.interpreter.Procs().ScanDeclarations(run.interpreter, text);
+  tamrix::CheckProgram(codes);
   return 0;
 }

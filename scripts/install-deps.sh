@@ -10,6 +10,7 @@ packages=(
   fonts-liberation fonts-dejavu-core xvfb xauth locales
   clang libclang-rt-14-dev
   libqt6sql6-psql libqt6sql6-odbc unixodbc libsqliteodbc odbc-postgresql postgresql python3
+  dpkg-dev libkf5syntaxhighlighting-tools
 )
 missing=()
 for p in "${packages[@]}"; do

@@ -1,11 +1,14 @@
 // tamrix-pack: joins the run-time stub "tamrix" and a program's source units
-// into one executable, or packs a program and runs it at once.
+// into one executable, packs a program and runs it at once, or checks a
+// program without running it.
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -16,7 +19,9 @@
 #include <string_view>
 #include <vector>
 
+#include "core/codepage.h"
 #include "core/fault.h"
+#include "core/program_check.h"
 #include "core/text.h"
 #include "image/packer.h"
 #include "image/program_image.h"
@@ -32,6 +37,7 @@ constexpr int kSignalBase = 128;
 
 constexpr std::string_view kHelp = R"(Usage: tamrix-pack [-o OUTPUT] MAIN.tam [UNIT.tam ...]
        tamrix-pack --run MAIN.tam [UNIT.tam ...] [-- ARGUMENTS ...]
+       tamrix-pack --check MAIN.tam [UNIT.tam ...]
 
 Packs a Tamrix program into one executable: a copy of the run-time "tamrix"
 found beside tamrix-pack, followed by the program's source units.
@@ -41,6 +47,12 @@ found beside tamrix-pack, followed by the program's source units.
                of MAIN in the current folder (hello.tam gives ./hello)
   --run        pack into a hidden temporary file beside MAIN, run it with
                ARGUMENTS as its command line, and remove it afterwards
+  --check      read the program as the run-time does and list, without
+               running it, what would stop or mislead a run: unbalanced
+               If/While blocks, a Sub or Function without its end word,
+               words at a statement start that nothing takes, GoTo labels
+               that cannot be found and calls of undeclared functions, as
+               FILE:LINE: MESSAGE lines
   -h, --help   show this text
 
 Source files are UTF-8; they are stored in Windows-1252 with CR LF line ends
@@ -59,8 +71,10 @@ name first, so a failed run leaves no file behind.
 Exit status: 0 when packed; 2 when nothing was written (a bad argument, a
 missing or unreadable file, more than seven units, a name that cannot be
 stored, text without a Windows-1252 form, no run-time beside tamrix-pack).
-With --run: the program's exit status, 128 + n when signal n ended it, 2 when
-it could not be packed, 127 when it could not be started.
+With --check: 0 when nothing was found, 1 when something was, 2 when the
+program could not be read. With --run: the program's exit status, 128 + n
+when signal n ended it, 2 when it could not be packed, 127 when it could not
+be started.
 )";
 
 // A mistake in the command line itself; the message points to --help.
@@ -72,6 +86,7 @@ class UsageError : public PackError {
 struct Options {
   bool help = false;
   bool run = false;
+  bool check = false;
   std::string output;                  // empty: the default name
   std::vector<std::string> sources;    // MAIN first
   std::vector<std::string> arguments;  // the program's command line, with --run
@@ -85,6 +100,8 @@ Options ParseOptions(const std::vector<std::string>& args) {
       options.help = true;
     } else if (arg == "--run") {
       options.run = true;
+    } else if (arg == "--check") {
+      options.check = true;
     } else if (arg == "-o") {
       if (++i == args.size()) throw UsageError("-o needs a file name");
       options.output = args[i];
@@ -101,6 +118,9 @@ Options ParseOptions(const std::vector<std::string>& args) {
   if (options.help) return options;
   if (options.sources.empty()) throw UsageError("no MAIN file given");
   if (options.run && !options.output.empty()) throw UsageError("-o does not go with --run");
+  if (options.check && (options.run || !options.output.empty())) {
+    throw UsageError("--check goes neither with --run nor with -o");
+  }
   return options;
 }
 
@@ -272,6 +292,22 @@ int PackAndRun(const Options& options) {
   return RunAndWait(file.Path(), options.arguments);
 }
 
+// Lists the checker's findings as FILE:LINE: MESSAGE on the standard
+// output; 1 when there are any.
+int Check(const Options& options) {
+  ProgramNameOf(options.sources[0]);  // a name the run-time could not start under is refused here too
+  const std::vector<SourceUnit> units = LoadSourceUnits(options.sources);
+  std::array<std::string, 7> codes;
+  for (std::size_t i = 0; i < units.size(); ++i) codes[i] = units[i].text;
+  const auto findings = CheckProgram(codes);
+  for (const auto& finding : findings) {
+    const auto unit = std::min(static_cast<std::size_t>(finding.unit), options.sources.size() - 1);
+    std::cout << options.sources[unit] << ":" << finding.line << ": "
+              << Cp1252ToUtf8(finding.message) << "\n";
+  }
+  return findings.empty() ? 0 : 1;
+}
+
 int Main(const std::vector<std::string>& args) {
   try {
     const Options options = ParseOptions(args);
@@ -279,6 +315,7 @@ int Main(const std::vector<std::string>& args) {
       std::cout << kHelp;
       return 0;
     }
+    if (options.check) return Check(options);
     return options.run ? PackAndRun(options) : Pack(options);
   } catch (const UsageError& error) {
     std::cerr << "tamrix-pack: " << error.what() << "\nTry 'tamrix-pack --help'.\n";

@@ -8,6 +8,7 @@
 #include "core/preparation.h"
 #include "core/stack_guard.h"
 #include "core/text.h"
+#include "core/vocabulary.h"
 
 namespace tamrix {
 namespace {
@@ -111,17 +112,8 @@ void Interpreter::DeclareVariables(const std::string& list, bool& numericFlag) {
 }
 
 void Interpreter::DeclareBuiltInVariables() {
-  static constexpr std::string_view kBuiltIns =
-      "RetStr String, RetValue Decimal, MouseX Integer, MouseY Integer, MouseClick String, Blue Integer, "
-      "Red Integer, Green Integer, Black Integer, White Integer, Yellow Integer, LightBlue Integer, "
-      "DarkBlue Integer, DarkRed Integer, DarkGreen Integer, DarkYellow Integer, FieldReturn Integer, "
-      "TotalFonts Integer, WindowsDir String, Desktop String, ProgramDir String, WindowsPrograms String, "
-      "TestButton String, ZRDir String, ObjectValue String, ReferenceValue String, SQLPointer String, "
-      "LinSize Decimal, ColSize Decimal, GotFocus String, LostFocus String, DefaultBackcolor Integer, "
-      "RefIndex Integer, CommandLine String, StartWindowInvisible Integer, ScreenHeight Integer, "
-      "ScreenWidth Integer";
   bool numeric = false;
-  DeclareVariables(std::string(kBuiltIns), numeric);
+  DeclareVariables(std::string(BuiltInVariableDeclarations()), numeric);
 
   const auto set = [this](const char* name, const Value& value) { variables_.SetVariable(name, value, false); };
   set("Blue", 16711680);
