@@ -19,6 +19,8 @@
 #                       TAMRIX_ANSWERS unset, for the replayed input to answer
 #   <name>.pixels       pixels that the snapshot of the main window must show,
 #                       checked by <snapshot-pixels> (see tools/snapshot_pixels.cpp)
+#   <name>.program      the file name that the packed program gets (default:
+#                       <name>)
 #   <name>.post         a bash script run in <work-folder> after the trace
 #                       matched, with TAMRIX_DB naming the record file tool;
 #                       the case fails when it fails
@@ -39,6 +41,7 @@ rm -rf "$work"
 mkdir -p "$work"
 mkdir -m 700 "$work/.runtime"
 program="$work/$name"
+[[ -f "$case_path.program" ]] && program="$work/$(<"$case_path.program")"
 trace="$work/trace.txt"
 
 if [[ -f "$case_path.tam" ]]; then

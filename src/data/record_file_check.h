@@ -34,6 +34,14 @@ struct FieldReading {
 // A field's value as text; numbers as they print.
 FieldReading DescribeValue(const RecordField& field, std::string_view record);
 
+// The whole records that a file of `fileSize` bytes holds, and the bytes
+// of a record cut short behind them.
+struct RecordsPresent {
+  std::int64_t records = 0;
+  std::int64_t strayBytes = 0;
+};
+RecordsPresent CountRecordsPresent(std::uint64_t fileSize, std::int32_t recordLength);
+
 struct CheckResult {
   std::vector<std::string> problems;  // the file is not sound
   std::vector<std::string> notes;     // worth knowing, not a fault
@@ -41,9 +49,11 @@ struct CheckResult {
 };
 
 // The header reads, the record length is the sum of the stored fields, the
-// count fits the file's size, every value of every record that is not
-// deleted unscrambles, and the lock byte is free. Once 100 problems are
-// listed, a note says from which record on the rest went unchecked.
+// lock byte is free, the count is the number of records that the file
+// holds (neither ahead of nor behind them), and every value of every record
+// that is counted and present and not deleted unscrambles. Once 100
+// problems are listed, a note says from which record on the rest went
+// unchecked.
 CheckResult CheckRecordFile(const DataFile& file);
 
 }  // namespace tamrix
