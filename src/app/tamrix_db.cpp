@@ -27,44 +27,7 @@ using namespace tamrix;
 void Print(const std::string& text) { std::printf("%s\n", Cp1252ToUtf8(text).c_str()); }
 
 int Dump(const DataFile& file) {
-  const StoredDatabase db = ReadStoredDatabase(file);
-  Print("lock byte: " + std::string(1, db.lock));
-  Print("records: " + std::to_string(db.count));
-  Print("name: " + db.name);
-  Print("record length: " + std::to_string(db.recordLength));
-  Print("created: " + db.created);
-  Print("last prepared: " + db.prepared);
-  Print("password: \"" + db.password + "\"");
-  Print("fields:");
-  for (const auto& field : db.fields) {
-    Print("  " + field.name + " " + field.type + " width " + std::to_string(field.width) + " at " +
-          std::to_string(field.start));
-  }
-  // A count past the end of the file is damage, told once; only the records
-  // that stand in the file are shown.
-  const RecordsPresent present = CountRecordsPresent(file.Size(), db.recordLength);
-  std::int64_t shown = std::max<std::int64_t>(db.count, 0);
-  if (shown > present.records) {
-    Print("damage: the count says " + std::to_string(db.count) + " records, the file holds " +
-          std::to_string(present.records) + "; only those are shown");
-    shown = present.records;
-  }
-  for (std::int64_t r = 0; r < shown; ++r) {
-    const std::string record = ReadRecordAt(file, db.recordLength, r);
-    std::string line = "record " + std::to_string(r) + ":";
-    bool deleted = false;
-    try {
-      deleted = IsDeletedRecord(record);
-    } catch (const RuntimeFault&) {
-      // shown field by field below
-    }
-    if (deleted) {
-      line += " deleted";
-    } else {
-      for (const auto& field : db.fields) line += " " + field.name + "=" + DescribeValue(field, record).text;
-    }
-    Print(line);
-  }
+  DumpRecordFile(file, Print);
   return 0;
 }
 

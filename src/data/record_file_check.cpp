@@ -93,6 +93,47 @@ RecordsPresent CountRecordsPresent(std::uint64_t fileSize, std::int32_t recordLe
   return present;
 }
 
+void DumpRecordFile(const DataFile& file, const std::function<void(const std::string&)>& print) {
+  const StoredDatabase db = ReadStoredDatabase(file);
+  print("lock byte: " + std::string(1, db.lock));
+  print("records: " + std::to_string(db.count));
+  print("name: " + db.name);
+  print("record length: " + std::to_string(db.recordLength));
+  print("created: " + db.created);
+  print("last prepared: " + db.prepared);
+  print("password: \"" + db.password + "\"");
+  print("fields:");
+  for (const auto& field : db.fields) {
+    print("  " + field.name + " " + field.type + " width " + std::to_string(field.width) + " at " +
+          std::to_string(field.start));
+  }
+  // A count past the end of the file is damage, told once; only the records
+  // that stand in the file are shown.
+  const RecordsPresent present = CountRecordsPresent(file.Size(), db.recordLength);
+  std::int64_t shown = std::max<std::int64_t>(db.count, 0);
+  if (shown > present.records) {
+    print("damage: the count says " + std::to_string(db.count) + " records, the file holds " +
+          std::to_string(present.records) + "; only those are shown");
+    shown = present.records;
+  }
+  for (std::int64_t r = 0; r < shown; ++r) {
+    const std::string record = ReadRecordAt(file, db.recordLength, r);
+    std::string line = "record " + std::to_string(r) + ":";
+    bool deleted = false;
+    try {
+      deleted = IsDeletedRecord(record);
+    } catch (const RuntimeFault&) {
+      // shown field by field below
+    }
+    if (deleted) {
+      line += " deleted";
+    } else {
+      for (const auto& field : db.fields) line += " " + field.name + "=" + DescribeValue(field, record).text;
+    }
+    print(line);
+  }
+}
+
 CheckResult CheckRecordFile(const DataFile& file) {
   CheckResult result;
   StoredDatabase db;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,6 +42,11 @@ struct RecordsPresent {
   std::int64_t strayBytes = 0;
 };
 RecordsPresent CountRecordsPresent(std::uint64_t fileSize, std::int32_t recordLength);
+
+// The header, the fields and every record as text lines, handed to
+// `print`. A count past the end of the file is told once as damage, and
+// only the records that stand in the file are shown.
+void DumpRecordFile(const DataFile& file, const std::function<void(const std::string&)>& print);
 
 struct CheckResult {
   std::vector<std::string> problems;  // the file is not sound

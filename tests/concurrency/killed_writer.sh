@@ -52,4 +52,5 @@ for try in $(seq 1 "$tries"); do
     }
     END { if (n < 300) { print "FAIL: try " try ": only " n " records"; exit 1 } }'
 done
+
 echo "ok: $tries writers killed and repaired"

@@ -129,9 +129,9 @@ TEST(RecordFileRepairTest, FreesTheLockAndCountsTheRecordsPresentAfterABackup) {
       {"count ahead",
        [](std::string& b) {
          b[0] = '1';
-         PutCount(b, 1000000000);
+         PutCount(b, 999999);
        },
-       {"the lock byte \"1\" is freed", "the count 1000000000 is set to the 3 records the file holds"},
+       {"the lock byte \"1\" is freed", "the count 999999 is set to the 3 records the file holds"},
        3},
       {"count behind", [](std::string& b) { PutCount(b, 1); }, {"the count 1 is set to the 3 records the file holds"}, 3},
       {"record cut short",
@@ -203,6 +203,25 @@ TEST(RecordFileRepairTest, RefusesWhileAProgramHasTheFileOpen) {
   EXPECT_TRUE(RepairRecordFile(folder / "Missing.Zrf").refused);
   WriteBytes(path, "short");
   EXPECT_TRUE(RepairRecordFile(path).refused);
+}
+
+// A header that claims 999,999 records, the most it can hold: the damage is told once
+// and only the three records that stand in the file are shown.
+TEST(RecordFileDumpTest, ACountPastTheFileIsToldOnce) {
+  TempFolder folder;
+  std::string bytes = SoundFile();
+  PutCount(bytes, 999999);
+  const std::string path = folder / "Pessoas.Zrf";
+  WriteBytes(path, bytes);
+  std::vector<std::string> lines;
+  DumpRecordFile(*DataFile::Open(path, FileMode::Input), [&](const std::string& line) {
+    if (lines.size() < 100) lines.push_back(line);
+  });
+  ASSERT_EQ(lines.size(), 14u);
+  EXPECT_EQ(lines[1], "records: 999999");
+  EXPECT_EQ(lines[10], "damage: the count says 999999 records, the file holds 3; only those are shown");
+  EXPECT_EQ(lines[11], "record 0: Id=0 Nome=\"name 0\"");
+  EXPECT_EQ(lines[12], "record 1: deleted");
 }
 
 TEST(RecordFileCheckTest, ValuesReadAsText) {
