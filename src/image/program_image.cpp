@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 
@@ -108,8 +109,12 @@ void SplitSourceUnits(std::string_view payload, ProgramImage& image) {
 }
 
 bool ApiLibraryUsed(const std::array<std::string, kCodeSlots>& codes) {
+  // Searched in place, without an upper-case copy of a large program.
+  constexpr std::string_view kWords = "API LIBRARY";
+  const auto sameLetter = [](char a, char b) { return UpperChar(a) == b; };
   for (std::size_t unit = 0; unit < kSourceUnits; ++unit) {
-    if (Contains(Upper(codes[unit]), "API LIBRARY")) return true;
+    const std::string& code = codes[unit];
+    if (std::search(code.begin(), code.end(), kWords.begin(), kWords.end(), sameLetter) != code.end()) return true;
   }
   return false;
 }
