@@ -15,13 +15,13 @@ here=$(cd "$(dirname "$0")" && pwd)
 rm -rf "$work"
 mkdir -p "$work"
 mkdir -m 700 "$work/.runtime"
-"$packer" -o "$work/add_records" "$here/add_records.tam"
+"$packer" -o "$work/endless_writer" "$here/endless_writer.tam"
 cd "$work"
 
 for try in $(seq 1 "$tries"); do
   rm -f Shared.Zrf Shared.Zrf.bak*
   env QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR="$work/.runtime" LC_ALL=C.UTF-8 TAMRIX_EXIT=1 \
-    TAMRIX_ANSWERS= ./add_records K &  # env runs the program in its own process: the kill reaches it
+    TAMRIX_ANSWERS= ./endless_writer K &  # env runs the program in its own process: the kill reaches it
   writer=$!
   # Wait until the writer has added a few hundred records.
   for _ in $(seq 1 400); do
