@@ -59,3 +59,15 @@ if(TAMRIX_XVFB_RUN)
       ${CMAKE_CURRENT_BINARY_DIR}/examples/sqlshop)
   set_tests_properties(examples_on_xvfb.sqlshop PROPERTIES TIMEOUT 90)
 endif()
+
+# A writer killed while it adds records, and the repair of its file.
+add_test(NAME e2e.killed_writer_repair
+  COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/concurrency/killed_writer.sh
+    $<TARGET_FILE:tamrix-pack> $<TARGET_FILE:tamrix-db> ${CMAKE_CURRENT_BINARY_DIR}/e2e/killed_writer_repair)
+set_tests_properties(e2e.killed_writer_repair PROPERTIES TIMEOUT 180)
+
+# tamrix-pack's refusals of outputs that are no regular files and of sources
+# larger than memory.
+add_test(NAME packer_refusals
+  COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/packer_refusals.sh $<TARGET_FILE:tamrix-pack>
+    ${CMAKE_CURRENT_BINARY_DIR}/packer_refusals)

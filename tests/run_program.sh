@@ -19,6 +19,8 @@
 #                       TAMRIX_ANSWERS unset, for the replayed input to answer
 #   <name>.pixels       pixels that the snapshot of the main window must show,
 #                       checked by <snapshot-pixels> (see tools/snapshot_pixels.cpp)
+#   <name>.program      the name that the packed program is renamed to before
+#                       it runs (default: <name>)
 #   <name>.post         a bash script run in <work-folder> after the trace
 #                       matched, with TAMRIX_DB naming the record file tool;
 #                       the case fails when it fails
@@ -49,6 +51,10 @@ if [[ -f "$case_path.tam" ]]; then
   "$packer" -o "$program" "$case_path.tam" "${units[@]}"
 else
   cp "$stub" "$program"
+fi
+if [[ -f "$case_path.program" ]]; then
+  mv "$program" "$work/$(<"$case_path.program")"
+  program="$work/$(<"$case_path.program")"
 fi
 if [[ -d "$case_path.files" ]]; then
   cp -R "$case_path.files/." "$work/"

@@ -1,8 +1,12 @@
-// tamrix-db: shows and checks a record file (".Zrf") with the run-time's own
-// reading of the format.
+// tamrix-db: shows, checks and repairs a record file (".Zrf") with the
+// run-time's own reading of the format.
 //
 //   tamrix-db dump FILE    the header, the fields and every record as text
 //   tamrix-db check FILE   exit status 0 when the file is sound, 1 if not
+//   tamrix-db repair FILE  frees the lock byte and sets the count to the
+//                          records present, after a backup copy; status 1
+//                          when it refuses
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <string>
@@ -12,6 +16,7 @@
 #include "data/data_file.h"
 #include "data/record_file.h"
 #include "data/record_file_check.h"
+#include "data/record_file_repair.h"
 #include "data/record_layout.h"
 
 namespace {
@@ -22,35 +27,7 @@ using namespace tamrix;
 void Print(const std::string& text) { std::printf("%s\n", Cp1252ToUtf8(text).c_str()); }
 
 int Dump(const DataFile& file) {
-  const StoredDatabase db = ReadStoredDatabase(file);
-  Print("lock byte: " + std::string(1, db.lock));
-  Print("records: " + std::to_string(db.count));
-  Print("name: " + db.name);
-  Print("record length: " + std::to_string(db.recordLength));
-  Print("created: " + db.created);
-  Print("last prepared: " + db.prepared);
-  Print("password: \"" + db.password + "\"");
-  Print("fields:");
-  for (const auto& field : db.fields) {
-    Print("  " + field.name + " " + field.type + " width " + std::to_string(field.width) + " at " +
-          std::to_string(field.start));
-  }
-  for (std::int32_t r = 0; r < db.count; ++r) {
-    const std::string record = ReadRecordAt(file, db.recordLength, r);
-    std::string line = "record " + std::to_string(r) + ":";
-    bool deleted = false;
-    try {
-      deleted = IsDeletedRecord(record);
-    } catch (const RuntimeFault&) {
-      // shown field by field below
-    }
-    if (deleted) {
-      line += " deleted";
-    } else {
-      for (const auto& field : db.fields) line += " " + field.name + "=" + DescribeValue(field, record).text;
-    }
-    Print(line);
-  }
+  DumpRecordFile(file, Print);
   return 0;
 }
 
@@ -64,17 +41,34 @@ int Check(const DataFile& file, const std::string& name) {
   return 0;
 }
 
+int Repair(const std::string& name) {
+  const RepairResult result = RepairRecordFile(name);
+  if (result.refused) {
+    Print(name + ": not repaired: " + result.reason);
+    return 1;
+  }
+  if (result.done.empty()) {
+    Print(name + ": nothing to repair");
+    return 0;
+  }
+  Print(name + ": backup in " + result.backup);
+  for (const auto& change : result.done) Print(name + ": " + change);
+  return 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 3 || (std::string(argv[1]) != "dump" && std::string(argv[1]) != "check")) {
-    std::fprintf(stderr, "usage: tamrix-db dump FILE\n       tamrix-db check FILE\n");
+  const std::string command = argc == 3 ? argv[1] : "";
+  if (command != "dump" && command != "check" && command != "repair") {
+    std::fprintf(stderr, "usage: tamrix-db dump FILE\n       tamrix-db check FILE\n       tamrix-db repair FILE\n");
     return 2;
   }
   const std::string name = argv[2];
   try {
+    if (command == "repair") return Repair(Utf8ToCp1252Lossy(name));
     const auto file = DataFile::Open(Utf8ToCp1252Lossy(name), FileMode::Input);
-    return std::string(argv[1]) == "dump" ? Dump(*file) : Check(*file, Utf8ToCp1252Lossy(name));
+    return command == "dump" ? Dump(*file) : Check(*file, Utf8ToCp1252Lossy(name));
   } catch (const RuntimeFault& fault) {
     std::printf("%s: %s\n", name.c_str(), fault.Description().c_str());
     return 1;

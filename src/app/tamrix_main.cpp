@@ -33,7 +33,7 @@ int main(int argc, char* argv[]) {
     if (!own.accepted) {
       // The run-time refuses to start; nothing is left to run after the box.
       session.Core().StopBox(std::string(kInvalidExtensionMessage));
-      session.Core().EndProcess(0);
+      session.Core().EndProcess(1);
     }
     const ProgramImage image = ReadProgramImage(ReadWholeFile(own.path));
     if (!image.hasProgram) session.RunAboutWindow();

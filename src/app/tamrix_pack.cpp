@@ -70,7 +70,8 @@ name first, so a failed run leaves no file behind.
 
 Exit status: 0 when packed; 2 when nothing was written (a bad argument, a
 missing or unreadable file, more than seven units, a name that cannot be
-stored, text without a Windows-1252 form, no run-time beside tamrix-pack).
+stored, text without a Windows-1252 form, no run-time beside tamrix-pack,
+an OUTPUT that exists and is not a regular file, not enough memory).
 With --check: 0 when nothing was found, 1 when something was, 2 when the
 program could not be read. With --run: the program's exit status, 128 + n
 when signal n ended it, 2 when it could not be packed, 127 when it could not
@@ -158,6 +159,11 @@ fs::path OutputPath(const Options& options, const std::string& programName,
     throw PackError("the output " + output.string() +
                     " must have no extension, or .exe or .scr, or the run-time refuses it");
   }
+  // A FIFO, a device or a socket under that name would be replaced by the
+  // rename, and what stood there lost.
+  if (fs::exists(output, error) && !fs::is_regular_file(output, error)) {
+    throw PackError("the output " + output.string() + " exists and is not a regular file");
+  }
   if (SameFile(output, stub)) throw PackError("the output would replace the run-time stub");
   for (const auto& source : options.sources) {
     if (SameFile(output, source)) throw PackError("the output would replace " + source);
@@ -170,29 +176,40 @@ fs::path OutputPath(const Options& options, const std::string& programName,
 class TemporaryExecutable {
  public:
   // `prefix` is a path whose file name part begins the temporary name.
-  TemporaryExecutable(const fs::path& prefix, std::string_view bytes) {
+  explicit TemporaryExecutable(const fs::path& prefix) {
     std::string pattern = prefix.string() + "XXXXXX";
-    const int fd = ::mkstemp(pattern.data());
-    if (fd < 0) {
+    fd_ = ::mkstemp(pattern.data());
+    if (fd_ < 0) {
       const fs::path folder = prefix.has_parent_path() ? prefix.parent_path() : fs::path(".");
       throw PackError(SystemError("cannot create a file in " + folder.string()));
-    }
-    const bool written = WriteAll(fd, bytes) && ::fchmod(fd, 0755) == 0;
-    std::string failure = written ? std::string() : SystemError("cannot write " + pattern);
-    if (::close(fd) != 0 && written) failure = SystemError("cannot write " + pattern);
-    if (!failure.empty()) {
-      ::unlink(pattern.c_str());
-      throw PackError(failure);
     }
     path_ = std::move(pattern);
   }
   ~TemporaryExecutable() {
+    if (fd_ >= 0) ::close(fd_);
     if (!path_.empty()) ::unlink(path_.c_str());
   }
   TemporaryExecutable(const TemporaryExecutable&) = delete;
   TemporaryExecutable& operator=(const TemporaryExecutable&) = delete;
 
   const std::string& Path() const { return path_; }
+
+  void Write(std::string_view bytes) {
+    while (!bytes.empty()) {
+      const ssize_t done = ::write(fd_, bytes.data(), bytes.size());
+      if (done < 0 && errno == EINTR) continue;
+      if (done <= 0) throw PackError(SystemError("cannot write " + path_));
+      bytes.remove_prefix(static_cast<std::size_t>(done));
+    }
+  }
+
+  // All is written: the file becomes executable and is closed.
+  void Finish() {
+    const bool done = ::fchmod(fd_, 0755) == 0;
+    const bool closed = ::close(fd_) == 0;
+    fd_ = -1;
+    if (!done || !closed) throw PackError(SystemError("cannot write " + path_));
+  }
 
   void MoveTo(const fs::path& target) {
     if (::rename(path_.c_str(), target.c_str()) != 0) {
@@ -202,22 +219,26 @@ class TemporaryExecutable {
   }
 
  private:
-  static bool WriteAll(int fd, std::string_view bytes) {
-    while (!bytes.empty()) {
-      const ssize_t done = ::write(fd, bytes.data(), bytes.size());
-      if (done < 0 && errno == EINTR) continue;
-      if (done <= 0) return false;
-      bytes.remove_prefix(static_cast<std::size_t>(done));
-    }
-    return true;
-  }
-
+  int fd_ = -1;
   std::string path_;
 };
 
-std::string PackedBytes(const Options& options, const std::string& programName,
-                        const fs::path& stub) {
-  return PackExecutable(ReadStub(stub), programName, LoadSourceUnits(options.sources));
+// The stub and the program written into `file` piece by piece and read back:
+// the source is held about twice at most, never whole beside the file.
+void WritePacked(TemporaryExecutable& file, const Options& options, const std::string& programName,
+                 const fs::path& stub) {
+  {
+    const std::string stubBytes = ReadStub(stub);
+    CheckStub(stubBytes);
+    file.Write(stubBytes);
+  }
+  const PackedDigest digest = WriteProgram(programName, LoadSourceUnits(options.sources),
+                                           [&file](std::string_view piece) { file.Write(piece); });
+  file.Finish();
+  if (!ReadsBackAs(ReadWholeFile(file.Path()), digest)) {
+    throw PackError("the stub already holds a program or a marker text: "
+                    "the packed file would not run this program");
+  }
 }
 
 int Pack(const Options& options) {
@@ -225,8 +246,8 @@ int Pack(const Options& options) {
   const fs::path stub = OwnFolder() / "tamrix";
   const fs::path output = OutputPath(options, programName, stub);
   const std::string hiddenName = "." + output.filename().string() + ".tamrix-pack-";
-  TemporaryExecutable file(output.parent_path() / hiddenName,
-                           PackedBytes(options, programName, stub));
+  TemporaryExecutable file(output.parent_path() / hiddenName);
+  WritePacked(file, options, programName, stub);
   file.MoveTo(output);
   return 0;
 }
@@ -287,8 +308,8 @@ int PackAndRun(const Options& options) {
   const std::string programName = ProgramNameOf(main.string());
   // Beside MAIN, so that the program's folder is its source folder. The
   // leading dot is no extension, so the run-time accepts the name.
-  const TemporaryExecutable file(main.parent_path() / ("." + main.stem().string() + "-tamrix-run-"),
-                                 PackedBytes(options, programName, OwnFolder() / "tamrix"));
+  TemporaryExecutable file(main.parent_path() / ("." + main.stem().string() + "-tamrix-run-"));
+  WritePacked(file, options, programName, OwnFolder() / "tamrix");
   return RunAndWait(file.Path(), options.arguments);
 }
 
@@ -321,6 +342,10 @@ int Main(const std::vector<std::string>& args) {
     std::cerr << "tamrix-pack: " << error.what() << "\nTry 'tamrix-pack --help'.\n";
   } catch (const PackError& error) {
     std::cerr << "tamrix-pack: " << error.what() << "\n";
+  } catch (const std::bad_alloc&) {
+    std::cerr << "tamrix-pack: not enough memory to pack the program\n";
+  } catch (const RuntimeFault& fault) {
+    std::cerr << "tamrix-pack: " << fault.Description() << "\n";
   }
   return kNothingPacked;
 }

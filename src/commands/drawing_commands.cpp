@@ -153,14 +153,14 @@ Value Font(CommandCall& call) {
 }  // namespace
 
 void RegisterDrawingCommands(Dispatcher& dispatcher) {
-  dispatcher.Register("Circle", GuardForm::Command, Circle);
-  dispatcher.Register("Rectangle", GuardForm::Command, Rectangle);
-  dispatcher.Register("Straight", GuardForm::Command, Straight);
-  dispatcher.Register("Point", GuardForm::Command, Point);
-  dispatcher.Register("ReadPoint", GuardForm::Command, ReadPoint);
-  dispatcher.Register("Paint", GuardForm::Command, Paint);
-  dispatcher.Register("RGB", GuardForm::Command, Rgb);
-  dispatcher.Register("Font", GuardForm::Command, Font);
+  dispatcher.Register("Circle", GuardForm::Surface, Circle);
+  dispatcher.Register("Rectangle", GuardForm::Surface, Rectangle);
+  dispatcher.Register("Straight", GuardForm::Surface, Straight);
+  dispatcher.Register("Point", GuardForm::Surface, Point);
+  dispatcher.Register("ReadPoint", GuardForm::Surface, ReadPoint);
+  dispatcher.Register("Paint", GuardForm::Surface, Paint);
+  dispatcher.Register("RGB", GuardForm::Surface, Rgb);
+  dispatcher.Register("Font", GuardForm::Surface, Font);
 }
 
 }  // namespace tamrix

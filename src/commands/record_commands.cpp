@@ -86,7 +86,9 @@ Value OpenDB(CommandCall& call, DataState& state) {
   }
   const int number = state.files.FreeNumber();
   db.fileNumber = static_cast<std::int16_t>(number);
-  std::string header = state.files.Open(number, fileName, FileMode::Binary).ReadAt(0, zrf::kHeaderSize);
+  DataFile& file = state.files.Open(number, fileName, FileMode::Binary);
+  file.MarkInUse();
+  std::string header = file.ReadAt(0, zrf::kHeaderSize);
   header.resize(zrf::kHeaderSize, ' ');
   const std::string password = args.Text(1);
   if (StrippedAreaText(header, zrf::kPassword) != password) {

@@ -29,15 +29,16 @@ Value Write(CommandCall& call) {
     in.Tracer().Write({"caption", surface.Name(), text});
     return std::string("True");
   }
-  TextCursor& cursor = in.Cursor();
-  const int x = ToInt32(cursor.x);
-  const int y = ToInt32(cursor.y);
+  SurfaceCursor& at = surface.Cursor();
+  const int x = ToInt32(at.x);
+  const int y = ToInt32(at.y);
   surface.PrintText(x, y, text);
   in.Tracer().Write({"write", surface.Name(), std::to_string(x), std::to_string(y), text});
-  // Each Write starts a new line at the column where the cursor was.
-  cursor.writeY = ToInt16(cursor.writeY + in.Coordinates().linSize);
-  cursor.x = cursor.writeX;
-  cursor.y = cursor.writeY;
+  // Each Write starts a new line at the column where the shared cursor was.
+  TextCursor& shared = in.Cursor();
+  shared.writeY = ToInt16(shared.writeY + in.Coordinates().linSize);
+  at.x = shared.writeX;
+  at.y = shared.writeY;
   in.Screen().PumpEvents();
   return std::string("True");
 }
@@ -47,11 +48,11 @@ Value Position(CommandCall& call) {
   CommandArguments args(call, 3);
   const double line = NumberOf(args.Number(0));
   const double column = NumberOf(args.Number(1));
-  TextCursor& cursor = in.Cursor();
-  cursor.y = line * in.Coordinates().linSize;
-  cursor.x = column * in.Coordinates().colSize;
-  cursor.writeY = ToInt16(cursor.y);
-  cursor.writeX = ToInt16(cursor.x);
+  SurfaceCursor& at = in.Windows().CurrentSurface().Cursor();
+  at.y = line * in.Coordinates().linSize;
+  at.x = column * in.Coordinates().colSize;
+  in.Cursor().writeY = ToInt16(at.y);
+  in.Cursor().writeX = ToInt16(at.x);
   return std::string();
 }
 
@@ -59,9 +60,9 @@ Value Position(CommandCall& call) {
 // cursor stays where it was.
 Value ClearSurface(CommandCall& call) {
   Interpreter& in = call.interpreter;
-  in.Windows().CurrentSurface().Clear();
-  in.Cursor().x = 0;
-  in.Cursor().y = 0;
+  Surface& surface = in.Windows().CurrentSurface();
+  surface.Clear();
+  surface.Cursor() = SurfaceCursor();
   return std::string();
 }
 
@@ -91,11 +92,11 @@ Value Message(CommandCall& call) {
 }  // namespace
 
 void RegisterTextOutputCommands(Dispatcher& dispatcher) {
-  dispatcher.Register("Write", GuardForm::Command, Write);
-  dispatcher.Register("Position", GuardForm::Command, Position);
-  dispatcher.Register("Cls", GuardForm::Command, ClearSurface);
-  dispatcher.Register("ClearWindow", GuardForm::Command, ClearSurface);
-  dispatcher.Register("Message", GuardForm::Command, Message);
+  dispatcher.Register("Write", GuardForm::Surface, Write);
+  dispatcher.Register("Position", GuardForm::Surface, Position);
+  dispatcher.Register("Cls", GuardForm::Surface, ClearSurface);
+  dispatcher.Register("ClearWindow", GuardForm::Surface, ClearSurface);
+  dispatcher.Register("Message", GuardForm::Surface, Message);
 }
 
 }  // namespace tamrix

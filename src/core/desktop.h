@@ -23,12 +23,20 @@ struct BoxRequest {
   BoxAnswer defaultAnswer = BoxAnswer::Ok;
 };
 
+// Where the next Write prints on a surface (CurrentX, CurrentY), in pixels.
+struct SurfaceCursor {
+  double x = 0;
+  double y = 0;
+};
+
 // What a window offers for text output and drawing. Coordinates are pixels
 // of the window's client area; texts are Windows-1252; colours are 32-bit
 // with red in the low byte.
 class Surface {
  public:
   virtual ~Surface() = default;
+  // Every surface keeps its own text cursor; only WriteX/WriteY are shared.
+  SurfaceCursor& Cursor() { return cursor_; }
   // The upper-case name of the window ("PARENT" for the main window).
   virtual std::string Name() const = 0;
   virtual void PrintText(int x, int y, const std::string& text) = 0;
@@ -64,6 +72,9 @@ class Surface {
   virtual void FloodFill(int x, int y, std::int32_t areaColour) = 0;
   // Shows what was drawn at once.
   virtual void Refresh() = 0;
+
+ private:
+  SurfaceCursor cursor_;
 };
 
 class Desktop {

@@ -43,7 +43,8 @@ Value Dispatcher::RunGuarded(Interpreter& interpreter, const Entry& entry, Comma
   try {
     return entry.handler(call);
   } catch (const RuntimeFault& fault) {
-    CommandErrorBox(interpreter, kLineBreak, GuardText(entry.guard, entry.name) + fault.Description());
+    const std::string_view separator = entry.guard == GuardForm::Surface ? kCarriageReturn : kLineBreak;
+    CommandErrorBox(interpreter, separator, GuardText(entry.guard, entry.name) + fault.Description());
     return std::string();
   }
 }
@@ -99,8 +100,8 @@ std::vector<std::string> SplitArguments(Interpreter& interpreter, std::string_vi
     CallRecord call;
     RewriteGuard guard;
     while (FindCommandCall(interpreter, work, call)) {
-      ExecuteCommandCall(interpreter, work, call, numericFlag);
-      guard.Step(work);
+      const std::size_t back = ExecuteCommandCall(interpreter, work, call, numericFlag);
+      guard.Step(work, back);
     }
   }
   std::vector<std::string> parts(capacity);

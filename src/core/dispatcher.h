@@ -29,6 +29,7 @@ using CommandHandler = std::function<Value(CommandCall&)>;
 enum class GuardForm {
   Command,   // "Error in command <Name>: "
   Function,  // "Error in function <Name>: "
+  Surface,   // "Error in command <Name>: " after a single CR, as the object commands
   None,      // no guard: faults travel on to the caller
 };
 

@@ -81,11 +81,29 @@ bool FindCallCached(Interpreter& interpreter, CallSearchCache& cache, std::strin
 
 // The text behind a rewritten call: it starts two characters behind the end
 // of the argument text, so the character behind the ")" is dropped.
-std::string RestBehind(const std::string& expr, const std::string& args, std::size_t from) {
+std::size_t RestStart(const std::string& expr, const std::string& args, std::size_t from) {
   const auto at = expr.find(args, from);
   const std::size_t restStart = (at == std::string::npos ? 0 : at) + args.size() + 2 -
                                 (at == std::string::npos ? 1 : 0);
-  return restStart < expr.size() ? expr.substr(restStart) : std::string();
+  return std::min(restStart, expr.size());
+}
+
+// `head`, then `middle`, then `expr` from `restStart` on, as the new text of
+// `expr`; gives the bytes brought back a second time, those of `expr` from
+// `restStart` to the end of `head` when the rest starts in front of the
+// call. A text can thus double with each rewrite: its size is checked
+// before it is built, and it is built in one piece.
+std::size_t Rewrite(std::string& expr, std::string_view head, std::string_view middle, std::size_t restStart,
+                    std::size_t headEnd) {
+  const std::size_t restSize = expr.size() - restStart;
+  CheckTextSize(head.size() + middle.size() + restSize);
+  std::string out;
+  out.reserve(head.size() + middle.size() + restSize);
+  out.append(head);
+  out.append(middle);
+  out.append(expr, restStart, restSize);
+  expr = std::move(out);
+  return headEnd > restStart ? headEnd - restStart : 0;
 }
 
 // Texts the finders pass over without a search.
@@ -109,14 +127,20 @@ bool HoldsNoCall(Interpreter& interpreter, const std::string& expr) {
          (FunctionSearchSkips(expr) || interpreter.Procs().FunctionCallCache().KnownWithoutCall(expr));
 }
 
-void RewriteGuard::Step(const std::string& expr) {
+void RewriteGuard::Step(const std::string& expr, std::size_t broughtBack) {
   constexpr int kMaxRewrites = 10000;
+  constexpr std::size_t kMaxBroughtBack = std::size_t{16} << 20;
   if (++count_ > kMaxRewrites) Throw(kOutOfStackSpace);
   CheckTextSize(expr.size());
+  broughtBack_ += broughtBack;
+  if (broughtBack_ > kMaxBroughtBack) Throw(kOutOfMemory);
 }
 
 std::string TagBrackets(std::string_view text) {
-  const std::string plain = StripTags(text);
+  // Every tag holds a square bracket: a text without one is its own plain form.
+  const bool tagged = text.find_first_of("[]") != std::string_view::npos;
+  const std::string stripped = tagged ? StripTags(text) : std::string();
+  const std::string_view plain = tagged ? std::string_view(stripped) : text;
   std::string out;
   out.reserve(plain.size() + plain.size() / 2);
   int depth = 0;
@@ -143,6 +167,11 @@ std::string StripTags(std::string_view text) {
   out.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char c = text[i];
+    // Only a bracket can open a tag: a long run of digits is passed once.
+    if (c != '(' && c != '[') {
+      out += c;
+      continue;
+    }
     // "(<digits>]" and "[<digits>)", with an optional minus sign.
     std::size_t j = i + 1;
     if (j < text.size() && text[j] == '-') ++j;
@@ -187,8 +216,8 @@ bool FindFunctionCall(Interpreter& interpreter, std::string_view expr, CallRecor
                         "Error in function ", call, [&](std::size_t n) { returnType = procs.FunctionReturns()[n]; });
 }
 
-void ExecuteCommandCall(Interpreter& interpreter, std::string& expr, const CallRecord& call,
-                        bool& numericFlag) {
+std::size_t ExecuteCommandCall(Interpreter& interpreter, std::string& expr, const CallRecord& call,
+                               bool& numericFlag) {
   const auto p = expr.find(call.name);
   const std::size_t at = p == std::string::npos ? 0 : p;
   const auto close = expr.find(')', at);
@@ -203,18 +232,18 @@ void ExecuteCommandCall(Interpreter& interpreter, std::string& expr, const CallR
 
   if (!numericFlag && (Trim(args).empty() || interpreter.Variables().VarIndex(Trim(args)) >= 0)) {
     expr = head;  // whatever stood behind the call is lost
-    return;
+    return 0;
   }
   const auto firstBracket = expr.find('(');
-  const std::string rest = RestBehind(expr, args, firstBracket == std::string::npos ? 0 : firstBracket);
+  const std::size_t restStart = RestStart(expr, args, firstBracket == std::string::npos ? 0 : firstBracket);
   if (numericFlag) head = ReplaceAll(head, ",", ".");
-  expr = head + rest;
+  return Rewrite(expr, head, "", restStart, at);
 }
 
-void ExecuteFunctionCall(Interpreter& interpreter, std::string& expr, const CallRecord& call,
-                         const std::string& returnType) {
+std::size_t ExecuteFunctionCall(Interpreter& interpreter, std::string& expr, const CallRecord& call,
+                                const std::string& returnType) {
   const auto p = expr.find(call.name);
-  const std::string head = expr.substr(0, p == std::string::npos ? 0 : p);
+  const std::size_t headSize = p == std::string::npos ? 0 : p;
   const std::string args = StripTags(call.arguments);
   std::string result = TextOf(CallFunction(interpreter, call.name, args));
   if (returnType == "Numero") {
@@ -222,8 +251,7 @@ void ExecuteFunctionCall(Interpreter& interpreter, std::string& expr, const Call
     if (comma != std::string::npos) result[comma] = '.';
   }
   if (returnType == "String" && !StartsWith(result, "\"")) result = "\"" + result + "\"";
-  const std::string rest = RestBehind(expr, args, 0);
-  expr = head + result + rest;
+  return Rewrite(expr, std::string_view(expr).substr(0, headSize), result, RestStart(expr, args, 0), headSize);
 }
 
 bool IsArithmetic(std::string_view expr) {
@@ -253,14 +281,14 @@ Value Evaluate(Interpreter& interpreter, std::string_view source, bool& numericF
   RewriteGuard guard;
   while (FindCommandCall(interpreter, expr, call)) {
     if (IsNumericKeyword(Upper(call.name))) numericFlag = true;
-    ExecuteCommandCall(interpreter, expr, call, numericFlag);
-    guard.Step(expr);
+    const std::size_t back = ExecuteCommandCall(interpreter, expr, call, numericFlag);
+    guard.Step(expr, back);
     rewritten = true;
   }
   std::string returnType;
   while (FindFunctionCall(interpreter, expr, call, returnType)) {
-    ExecuteFunctionCall(interpreter, expr, call, returnType);
-    guard.Step(expr);
+    const std::size_t back = ExecuteFunctionCall(interpreter, expr, call, returnType);
+    guard.Step(expr, back);
     rewritten = true;
   }
   if (!rewritten && plans.Keeps(source) && HoldsNoCall(interpreter, expr)) {
@@ -275,13 +303,13 @@ Value EvaluateText(Interpreter& interpreter, std::string_view source, bool& nume
   RewriteGuard guard;
   while (FindCommandCall(interpreter, expr, call)) {
     if (IsNumericKeyword(Upper(call.name))) numericFlag = true;
-    ExecuteCommandCall(interpreter, expr, call, numericFlag);
-    guard.Step(expr);
+    const std::size_t back = ExecuteCommandCall(interpreter, expr, call, numericFlag);
+    guard.Step(expr, back);
   }
   std::string returnType;
   while (FindFunctionCall(interpreter, expr, call, returnType)) {
-    ExecuteFunctionCall(interpreter, expr, call, returnType);
-    guard.Step(expr);
+    const std::size_t back = ExecuteFunctionCall(interpreter, expr, call, returnType);
+    guard.Step(expr, back);
   }
   if (interpreter.Variables().VarIndex(expr) >= 0) return interpreter.Variables().GetVariable(expr);
   return StripQuotes(expr);

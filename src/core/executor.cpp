@@ -500,13 +500,13 @@ void Frame::Assign(LineForm& form, bool numeric) {
   bool rewritten = false;
   RewriteGuard guard;
   while (FindFunctionCall(in_, expr, call, returnType)) {
-    ExecuteFunctionCall(in_, expr, call, returnType);
-    guard.Step(expr);
+    const std::size_t back = ExecuteFunctionCall(in_, expr, call, returnType);
+    guard.Step(expr, back);
     rewritten = true;
   }
   while (FindCommandCall(in_, expr, call)) {
-    ExecuteCommandCall(in_, expr, call, numeric);
-    guard.Step(expr);
+    const std::size_t back = ExecuteCommandCall(in_, expr, call, numeric);
+    guard.Step(expr, back);
     rewritten = true;
   }
   auto parts = SplitArguments(in_, expr, 11, false, numeric);
@@ -564,15 +564,18 @@ void Frame::Concatenate(const std::string& expr, const std::string& word) {
     if (StartsWith(piece, "\"")) {
       out += StripQuotes(piece);
     } else if (vars.VarIndex(piece) >= 0) {
-      out += TextOf(vars.GetVariable(piece));
+      const std::string value = TextOf(vars.GetVariable(piece));
+      CheckTextSize(out.size() + value.size());
+      out += value;
     } else if (FindCommandCall(in_, piece, call)) {
       // The call runs twice: once in the rewriting, once for its value.
       std::string rewritten = piece;
       ExecuteCommandCall(in_, rewritten, call, flag_);
       std::string arguments = StripTags(call.arguments);
-      out += StripQuotes(TextOf(in_.Commands().RunCommand(in_, call.name, arguments)));
+      const std::string value = StripQuotes(TextOf(in_.Commands().RunCommand(in_, call.name, arguments)));
+      CheckTextSize(out.size() + value.size());
+      out += value;
     }
-    CheckTextSize(out.size());
   }
   vars.SetVariable(word, out, true);
 }
@@ -593,14 +596,37 @@ bool Frame::AppendInPlace(const std::vector<std::string>& pieces, const std::str
   for (std::size_t i = 1; i < pieces.size(); ++i) {
     if (!StartsWith(pieces[i], "\"") && vars.VarIndex(pieces[i]) < 0) return false;
   }
-  std::string tail;
+  // The size is known before anything is copied, so that a text that
+  // doubles faults before it takes the memory; a piece that names the
+  // target itself is appended from where it lies.
+  const auto pieceText = [&](const std::string& piece) -> std::string {
+    return StartsWith(piece, "\"") ? StripQuotes(piece) : TextOf(vars.GetVariable(piece));
+  };
+  const auto isTarget = [&](const std::string& piece) {
+    return !StartsWith(piece, "\"") && vars.VarIndex(piece) == target;
+  };
+  std::vector<std::string> copies(pieces.size());
+  std::size_t tailSize = 0;
   for (std::size_t i = 1; i < pieces.size(); ++i) {
-    tail += StartsWith(pieces[i], "\"") ? StripQuotes(pieces[i]) : TextOf(vars.GetVariable(pieces[i]));
+    if (isTarget(pieces[i])) {
+      tailSize += vars.TextAt(target).size();
+    } else {
+      copies[i] = pieceText(pieces[i]);
+      tailSize += copies[i].size();
+    }
   }
   // The target is found last, as the assignment of the whole text finds it.
   std::string& text = vars.TextAt(vars.VarIndex(word));
-  CheckTextSize(text.size() + tail.size());
-  text += tail;
+  CheckTextSize(text.size() + tailSize);
+  const std::size_t before = text.size();
+  text.reserve(before + tailSize);
+  for (std::size_t i = 1; i < pieces.size(); ++i) {
+    if (isTarget(pieces[i])) {
+      text.append(text, 0, before);
+    } else {
+      text += copies[i];
+    }
+  }
   return true;
 }
 

@@ -62,10 +62,9 @@ struct Mailboxes {
   std::string lastKey;
 };
 
-// The text cursor of Write, in pixels of the current surface.
+// WriteX and WriteY: the cursor of Write in window units, shared by all
+// surfaces; each surface keeps its own CurrentX and CurrentY.
 struct TextCursor {
-  double x = 0;  // the surface's CurrentX
-  double y = 0;  // the surface's CurrentY
   std::int16_t writeX = 0;
   std::int16_t writeY = 0;
 };

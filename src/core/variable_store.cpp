@@ -1,6 +1,9 @@
 #include "core/variable_store.h"
 
+#include <unistd.h>
+
 #include <cmath>
+#include <limits>
 
 #include "core/fault.h"
 #include "core/numbers.h"
@@ -10,6 +13,15 @@ namespace tamrix {
 namespace {
 
 constexpr std::size_t kNameWidth = 50;
+
+std::uint64_t SlotBytes(VarType type) {
+  switch (type) {
+    case VarType::String: return sizeof(std::string);
+    case VarType::Integer: return sizeof(std::int32_t);
+    case VarType::Decimal: return sizeof(double);
+  }
+  return sizeof(std::string);
+}
 
 std::string BaseName(std::string_view name) {
   const auto bracket = name.find('(');
@@ -217,11 +229,26 @@ void VariableStore::SetVariable(std::string_view name, const Value& value, bool 
   }
 }
 
+std::uint64_t VariableStore::SlotBudgetBytes() {
+  static const std::uint64_t budget = [] {
+    const long pages = ::sysconf(_SC_PHYS_PAGES);
+    const long pageSize = ::sysconf(_SC_PAGE_SIZE);
+    if (pages <= 0 || pageSize <= 0) return std::uint64_t{1} << 30;
+    return static_cast<std::uint64_t>(pages) * static_cast<std::uint64_t>(pageSize) / 4;
+  }();
+  return budget;
+}
+
 void VariableStore::AddRecord(VarType type, std::string_view name, int size) {
   Table& table = tables_[Index(type)];
-  // A table larger than this ends the run with the memory fault.
-  constexpr long long kMaxSlots = 1LL << 24;
+  // Slots are counted in 32 bits, and all of them share one memory budget.
+  constexpr long long kMaxSlots = std::numeric_limits<std::int32_t>::max() - 1;
   if (static_cast<long long>(table.slotsInUse) + size > kMaxSlots) Throw(kOutOfMemory);
+  std::uint64_t bytes = SlotBytes(type) * static_cast<std::uint64_t>(size);
+  for (auto each : {VarType::String, VarType::Integer, VarType::Decimal}) {
+    bytes += SlotBytes(each) * static_cast<std::uint64_t>(tables_[Index(each)].slotsInUse);
+  }
+  if (bytes > SlotBudgetBytes()) Throw(kOutOfMemory);
   ++shape_;
   Record record{RecordName(name), table.slotsInUse, size};
   table.index.emplace(record.name, table.records.size());

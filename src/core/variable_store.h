@@ -61,6 +61,11 @@ class VariableStore {
   void DeclareArray(std::string_view nameWithSize, std::string_view typeText);
   void RemoveVariable(std::string_view name, bool complain);
 
+  // The bytes that the value slots of all three tables may take together:
+  // a quarter of the machine's physical memory. A declaration past it ends
+  // the run with the memory fault before anything is allocated.
+  static std::uint64_t SlotBudgetBytes();
+
   // Counts, for tests and tools.
   std::size_t RecordCount(VarType type) const { return tables_[Index(type)].records.size(); }
 

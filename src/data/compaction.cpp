@@ -39,6 +39,7 @@ void CompactDatabase(Interpreter& interpreter, DataState& state, const std::stri
 
   const int sourceNumber = files.FreeNumber();
   DataFile& source = files.Open(sourceNumber, fileName, FileMode::Binary);
+  source.MarkInUse();
   const int tempNumber = files.FreeNumber();
   DataFile& temp = files.Open(tempNumber, tempName, FileMode::Binary);
   const std::string header = ReadHeader(source);
@@ -69,7 +70,7 @@ void CompactDatabase(Interpreter& interpreter, DataState& state, const std::stri
   files.Close(tempNumber);
   RemoveFile(fileName);
   RenameFile(tempName, fileName);
-  files.Open(slot, fileName, FileMode::Binary);
+  files.Open(slot, fileName, FileMode::Binary).MarkInUse();
 }
 
 }  // namespace tamrix

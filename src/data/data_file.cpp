@@ -4,7 +4,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <limits>
 
 #include "core/fault.h"
 #include "data/os_errors.h"
@@ -14,6 +16,8 @@ namespace tamrix {
 namespace {
 
 constexpr std::size_t kLineChunk = 4096;
+// The byte of the in-use mark: far past the end of any real file.
+constexpr off_t kInUseMark = std::numeric_limits<off_t>::max() - 1;
 
 int OpenFlags(FileMode mode) {
   switch (mode) {
@@ -33,6 +37,19 @@ void SetLock(int descriptor, short type, std::uint64_t length) {
   lock.l_start = 0;
   lock.l_len = static_cast<off_t>(length);
   while (::fcntl(descriptor, F_OFD_SETLKW, &lock) != 0 && errno == EINTR) {
+  }
+}
+
+// The lock of the in-use byte; `wait` blocks until it is granted.
+bool LockInUseMark(int descriptor, short type, bool wait) {
+  struct flock lock {};
+  lock.l_type = type;
+  lock.l_whence = SEEK_SET;
+  lock.l_start = kInUseMark;
+  lock.l_len = 1;
+  for (;;) {
+    if (::fcntl(descriptor, wait ? F_OFD_SETLKW : F_OFD_SETLK, &lock) == 0) return true;
+    if (errno != EINTR) return false;
   }
 }
 
@@ -65,6 +82,12 @@ std::uint64_t DataFile::Size() const {
 }
 
 std::string DataFile::ReadAt(std::uint64_t offset, std::size_t length) const {
+  // A long read is cut to what the file holds before its buffer is taken.
+  constexpr std::size_t kLongRead = 1 << 20;
+  if (length > kLongRead) {
+    const std::uint64_t size = Size();
+    length = static_cast<std::size_t>(std::min<std::uint64_t>(length, size > offset ? size - offset : 0));
+  }
   std::string bytes(length, '\0');
   std::size_t done = 0;
   while (done < length) {
@@ -119,6 +142,10 @@ void DataFile::AppendLine(std::string_view text) {
   bytes += "\r\n";
   WriteAt(Size(), bytes);  // O_APPEND puts it at the end whatever the offset
 }
+
+void DataFile::MarkInUse() { LockInUseMark(descriptor_, F_RDLCK, true); }
+
+bool DataFile::TryTakeAlone() { return LockInUseMark(descriptor_, F_WRLCK, false); }
 
 StartLock::StartLock(DataFile& file, std::uint64_t length) : file_(file), length_(length) {
   SetLock(file_.descriptor_, F_WRLCK, length_);

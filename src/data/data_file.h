@@ -36,6 +36,14 @@ class DataFile {
   // The text and CR LF at the end of the file.
   void AppendLine(std::string_view text);
 
+  // Marks the file as in use by a program for as long as it stays open: a
+  // shared advisory lock on one byte far past any record, so that a tool
+  // that must have the file to itself can see that a program may be adding.
+  void MarkInUse();
+  // Takes that byte for this open file alone; false while any other open
+  // file (in any process) holds its mark.
+  bool TryTakeAlone();
+
  private:
   friend class StartLock;
   DataFile(int descriptor, FileMode mode, std::filesystem::path path);

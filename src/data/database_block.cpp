@@ -145,6 +145,7 @@ int ReadDatabaseBlock(Interpreter& interpreter, DataState& state, const std::str
   const bool existed = FileExists(fileName);
   const int number = state.files.FreeNumber();
   DataFile& file = state.files.Open(number, fileName, FileMode::Binary);
+  file.MarkInUse();
   if (!PrepareHeader(file, existed, slot, reader.Password())) {
     // The file stays open and the slot is taken again by the next block.
     interpreter.StopBox(SizeChangedMessage(slot.name));

@@ -1,5 +1,6 @@
 #include "data/record_file_check.h"
 
+#include <algorithm>
 #include <functional>
 
 #include "core/fault.h"
@@ -77,6 +78,62 @@ FieldReading DescribeValue(const RecordField& field, std::string_view record) {
   }
 }
 
+RecordsPresent CountRecordsPresent(std::uint64_t fileSize, std::int32_t recordLength) {
+  RecordsPresent present;
+  if (recordLength <= 0) return present;
+  // Record 0 starts on the header's last byte, so a file of the header alone
+  // holds no record.
+  const auto size = static_cast<std::int64_t>(fileSize);
+  const std::int64_t firstRecord = static_cast<std::int64_t>(zrf::RecordOffset(recordLength, 0));
+  if (size > static_cast<std::int64_t>(zrf::kHeaderSize)) {
+    present.records = (size - firstRecord) / recordLength;
+  }
+  const std::int64_t end = std::max<std::int64_t>(zrf::kHeaderSize, firstRecord + present.records * recordLength);
+  present.strayBytes = std::max<std::int64_t>(0, size - end);
+  return present;
+}
+
+void DumpRecordFile(const DataFile& file, const std::function<void(const std::string&)>& print) {
+  const StoredDatabase db = ReadStoredDatabase(file);
+  print("lock byte: " + std::string(1, db.lock));
+  print("records: " + std::to_string(db.count));
+  print("name: " + db.name);
+  print("record length: " + std::to_string(db.recordLength));
+  print("created: " + db.created);
+  print("last prepared: " + db.prepared);
+  print("password: \"" + db.password + "\"");
+  print("fields:");
+  for (const auto& field : db.fields) {
+    print("  " + field.name + " " + field.type + " width " + std::to_string(field.width) + " at " +
+          std::to_string(field.start));
+  }
+  // A count past the end of the file is damage, told once; only the records
+  // that stand in the file are shown.
+  const RecordsPresent present = CountRecordsPresent(file.Size(), db.recordLength);
+  std::int64_t shown = std::max<std::int64_t>(db.count, 0);
+  if (shown > present.records) {
+    print("damage: the count says " + std::to_string(db.count) + " records, the file holds " +
+          std::to_string(present.records) + "; only those are shown");
+    shown = present.records;
+  }
+  for (std::int64_t r = 0; r < shown; ++r) {
+    const std::string record = ReadRecordAt(file, db.recordLength, r);
+    std::string line = "record " + std::to_string(r) + ":";
+    bool deleted = false;
+    try {
+      deleted = IsDeletedRecord(record);
+    } catch (const RuntimeFault&) {
+      // shown field by field below
+    }
+    if (deleted) {
+      line += " deleted";
+    } else {
+      for (const auto& field : db.fields) line += " " + field.name + "=" + DescribeValue(field, record).text;
+    }
+    print(line);
+  }
+}
+
 CheckResult CheckRecordFile(const DataFile& file) {
   CheckResult result;
   StoredDatabase db;
@@ -97,29 +154,31 @@ CheckResult CheckRecordFile(const DataFile& file) {
                               " but the stored fields take " + std::to_string(widths));
     return result;
   }
-  if (db.count < 0) result.problems.push_back("the record count is negative");
-  const auto size = static_cast<std::int64_t>(file.Size());
-  const std::int64_t length = db.recordLength;
-  const std::int64_t expected = std::max<std::int64_t>(zrf::kHeaderSize, static_cast<std::int64_t>(zrf::RecordOffset(length, db.count)));
-  if (size < expected) {
-    result.problems.push_back("the count of " + std::to_string(db.count) + " records needs " + std::to_string(expected) +
-                              " bytes, the file has " + std::to_string(size));
-  } else if (size > expected) {
-    if (length > 0 && (size - expected) % length == 0) {
-      result.notes.push_back(std::to_string((size - expected) / length) +
-                             " record(s) stand behind the count, written at the count's position");
-    } else {
-      result.problems.push_back(std::to_string(size - expected) + " bytes behind the last record");
-    }
-  }
-  if (!result.problems.empty() || db.fields.empty()) return result;
   // Records of no bytes all read as the empty text, which no record command
   // can read; the file's size doesn't bound how many of them are counted.
-  if (length <= 0 && db.count > 0) {
-    result.problems.push_back("records of " + std::to_string(length) + " bytes: none of them can be read");
+  const std::int64_t length = db.recordLength;
+  if (length <= 0) {
+    if (db.count > 0) {
+      result.problems.push_back("records of " + std::to_string(length) + " bytes: none of them can be read");
+    }
     return result;
   }
-  for (std::int32_t r = 0; r < db.count; ++r) {
+  if (db.count < 0) result.problems.push_back("the record count is negative");
+  const RecordsPresent present = CountRecordsPresent(file.Size(), db.recordLength);
+  if (db.count > present.records) {
+    result.problems.push_back("the count runs ahead of the data: it says " + std::to_string(db.count) +
+                              " records, the file holds " + std::to_string(present.records));
+  } else if (db.count < present.records) {
+    result.problems.push_back("the count is behind the data: it says " + std::to_string(db.count) +
+                              " records, the file holds " + std::to_string(present.records) +
+                              ", and the next AddRecord writes over those behind it");
+  }
+  if (present.strayBytes > 0) {
+    result.problems.push_back(std::to_string(present.strayBytes) + " bytes behind the last record");
+  }
+  if (db.fields.empty()) return result;
+  const std::int32_t checked = static_cast<std::int32_t>(std::min<std::int64_t>(db.count, present.records));
+  for (std::int32_t r = 0; r < checked; ++r) {
     if (result.problems.size() >= kListedProblems) {
       result.notes.push_back("records from " + std::to_string(r) + " on are not checked: " +
                              std::to_string(result.problems.size()) + " problems are listed");

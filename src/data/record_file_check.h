@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,6 +35,19 @@ struct FieldReading {
 // A field's value as text; numbers as they print.
 FieldReading DescribeValue(const RecordField& field, std::string_view record);
 
+// The whole records that a file of `fileSize` bytes holds, and the bytes
+// of a record cut short behind them.
+struct RecordsPresent {
+  std::int64_t records = 0;
+  std::int64_t strayBytes = 0;
+};
+RecordsPresent CountRecordsPresent(std::uint64_t fileSize, std::int32_t recordLength);
+
+// The header, the fields and every record as text lines, handed to
+// `print`. A count past the end of the file is told once as damage, and
+// only the records that stand in the file are shown.
+void DumpRecordFile(const DataFile& file, const std::function<void(const std::string&)>& print);
+
 struct CheckResult {
   std::vector<std::string> problems;  // the file is not sound
   std::vector<std::string> notes;     // worth knowing, not a fault
@@ -41,9 +55,11 @@ struct CheckResult {
 };
 
 // The header reads, the record length is the sum of the stored fields, the
-// count fits the file's size, every value of every record that is not
-// deleted unscrambles, and the lock byte is free. Once 100 problems are
-// listed, a note says from which record on the rest went unchecked.
+// lock byte is free, the count is the number of records that the file
+// holds (neither ahead of nor behind them), and every value of every record
+// that is counted and present and not deleted unscrambles. Once 100
+// problems are listed, a note says from which record on the rest went
+// unchecked.
 CheckResult CheckRecordFile(const DataFile& file);
 
 }  // namespace tamrix

@@ -19,20 +19,23 @@ std::string_view KeyOf(long selector) {
   return kKeyTable[static_cast<std::size_t>(selector)];
 }
 
-// Combines every byte with the running key; the key position restarts for
-// every text and wraps after the key's last byte.
-std::string ApplyKey(std::string_view bytes, std::string_view key,
-                     unsigned char (*combine)(unsigned char, unsigned char)) {
-  std::string out;
-  out.reserve(bytes.size());
+// Combines every byte with the running key and appends it to `out`,
+// inverted when `invert` is set (before combining when reading, after
+// when writing); the key position restarts for every text and wraps after
+// the key's last byte. One buffer, so that a large text is held twice at most.
+enum class Inversion { Before, After };
+void ApplyKey(std::string_view bytes, std::string_view key, unsigned char (*combine)(unsigned char, unsigned char),
+              Inversion inversion, std::string& out) {
   std::size_t j = 0;
   for (char c : bytes) {
     if (j >= key.size()) Throw(kSubscriptOutOfRange);  // only the empty slot gets here
-    out += static_cast<char>(
-        combine(static_cast<unsigned char>(c), static_cast<unsigned char>(key[j])));
+    auto byte = static_cast<unsigned char>(c);
+    if (inversion == Inversion::Before) byte = static_cast<unsigned char>(~byte);
+    byte = combine(byte, static_cast<unsigned char>(key[j]));
+    if (inversion == Inversion::After) byte = static_cast<unsigned char>(~byte);
+    out += static_cast<char>(byte);
     j = j + 1 == key.size() ? 0 : j + 1;
   }
-  return out;
 }
 
 }  // namespace
@@ -63,15 +66,17 @@ std::string EncodeText(std::string_view plain) { return EncodeText(plain, Random
 
 std::string EncodeText(std::string_view plain, int selector) {
   if (plain.size() >= std::numeric_limits<std::uint32_t>::max()) Throw(kOverflow);
-  std::string body(1, static_cast<char>(selector));
-  body += ApplyKey(plain, KeyOf(selector), AddKeyByte);
+  const std::string_view key = KeyOf(selector);
   const auto length = static_cast<std::uint32_t>(plain.size() + 1);
+  // The length, then the selector and the keyed text, both inverted.
   std::string out;
-  out.reserve(kLengthBytes + body.size());
+  out.reserve(kLengthBytes + length);
   for (std::size_t i = 0; i < kLengthBytes; ++i) {
     out += static_cast<char>((length >> (8 * i)) & 0xFF);
   }
-  return out + InvertBytes(body);
+  out += static_cast<char>(~static_cast<unsigned char>(selector));
+  ApplyKey(plain, key, AddKeyByte, Inversion::After, out);
+  return out;
 }
 
 std::string DecodeText(std::string_view encoded) {
@@ -81,10 +86,14 @@ std::string DecodeText(std::string_view encoded) {
   for (std::size_t i = 0; i < lengthBytes; ++i) {
     length |= static_cast<std::uint32_t>(static_cast<unsigned char>(encoded[i])) << (8 * i);
   }
-  const std::string body = InvertBytes(encoded.substr(lengthBytes, length));
+  const std::string_view body = encoded.substr(lengthBytes, length);
   if (body.empty()) return {};
-  const auto selector = static_cast<unsigned char>(body[0]);
-  return ApplyKey(std::string_view(body).substr(1), KeyOf(selector), SubKeyByte);
+  const auto selector = static_cast<unsigned char>(~static_cast<unsigned char>(body[0]));
+  const std::string_view key = KeyOf(selector);
+  std::string out;
+  out.reserve(body.size() - 1);
+  ApplyKey(body.substr(1), key, SubKeyByte, Inversion::Before, out);
+  return out;
 }
 
 }  // namespace tamrix

@@ -34,27 +34,18 @@ std::string EncodeBlob(std::string_view text, const std::vector<std::string>& fo
   throw PackError(what + " cannot be stored: every key's encoding holds a separator");
 }
 
-bool ImageHolds(const ProgramImage& image, const std::string& programName,
-                const std::vector<SourceUnit>& units) {
-  if (!image.hasProgram || image.programName != programName + ".ZRC") return false;
-  for (std::size_t unit = 0; unit < kSourceUnits; ++unit) {
-    const bool packed = unit < units.size();
-    if (image.codes[unit] != (packed ? units[unit].text : std::string())) return false;
-    if (unit > 0 && image.names[unit - 1] != (packed ? units[unit].name : std::string())) {
-      return false;
-    }
-  }
-  return true;
+std::size_t UnitDigest(const std::string& name, const std::string& text) {
+  const std::hash<std::string> hash;
+  return hash(name) * 31 + hash(text);
 }
 
-bool ReadsBackAs(std::string_view bytes, const std::string& programName,
-                 const std::vector<SourceUnit>& units) {
-  try {
-    return ImageHolds(ReadProgramImage(bytes), programName, units);
-  } catch (const RuntimeFault&) {
-    return false;
-  }
+PackedDigest DigestOf(const std::string& programName, const std::vector<SourceUnit>& units) {
+  PackedDigest digest{programName, {}};
+  for (const auto& unit : units) digest.units.push_back(UnitDigest(unit.name, unit.text));
+  return digest;
 }
+
+const std::string kNoName;
 
 }  // namespace
 
@@ -120,33 +111,74 @@ std::vector<SourceUnit> LoadSourceUnits(const std::vector<std::string>& paths) {
   return units;
 }
 
-std::string PackProgram(const std::string& programName, const std::vector<SourceUnit>& units) {
+PackedDigest WriteProgram(const std::string& programName, std::vector<SourceUnit> units,
+                          const std::function<void(std::string_view)>& write) {
   if (const auto problem = ProgramNameProblem(programName)) {
     throw PackError("cannot store the program name: " + Quoted(programName) + " " + *problem);
   }
   if (units.empty() || units.size() > kSourceUnits) {
     throw PackError("a program has one to seven units, not " + std::to_string(units.size()));
   }
+  const PackedDigest digest = DigestOf(programName, units);
   const std::string payloadEnd = EndMarker() + programName;
   const std::vector<std::string> forbidden = {std::string(kCodeEnd), std::string(kNameEnd),
                                               payloadEnd};
-  std::string payload = EncodeBlob(units[0].text, forbidden, "the main unit");
-  payload += kCodeEnd;
-  for (std::size_t unit = 1; unit < units.size(); ++unit) {
-    const std::string what = "unit " + std::to_string(unit) + " " + Quoted(units[unit].name);
-    payload += EncodeBlob(units[unit].name, forbidden, "the name of " + what);
-    payload += kNameEnd;
-    payload += EncodeBlob(units[unit].text, forbidden, what);
-    payload += kCodeEnd;
+  write(StartMarker() + programName + NameEndMarker());
+  for (std::size_t unit = 0; unit < units.size(); ++unit) {
+    const std::string what = unit == 0 ? std::string("the main unit")
+                                       : "unit " + std::to_string(unit) + " " + Quoted(units[unit].name);
+    if (unit > 0) {
+      write(EncodeBlob(units[unit].name, forbidden, "the name of " + what));
+      write(kNameEnd);
+    }
+    std::string blob = EncodeBlob(units[unit].text, forbidden, what);
+    std::string().swap(units[unit].text);
+    write(blob);
+    write(kCodeEnd);
   }
-  return StartMarker() + programName + NameEndMarker() + payload + payloadEnd;
+  write(payloadEnd);
+  return digest;
+}
+
+bool ReadsBackAs(std::string_view fileBytes, const PackedDigest& digest) {
+  try {
+    const ProgramImage image = ReadProgramImage(fileBytes);
+    if (!image.hasProgram || image.programName != digest.programName + ".ZRC") return false;
+    for (std::size_t unit = 0; unit < kSourceUnits; ++unit) {
+      const std::string& name = unit == 0 ? kNoName : image.names[unit - 1];
+      if (unit < digest.units.size()) {
+        if (UnitDigest(name, image.codes[unit]) != digest.units[unit]) return false;
+      } else if (!name.empty() || !image.codes[unit].empty()) {
+        return false;
+      }
+    }
+    return true;
+  } catch (const RuntimeFault&) {
+    return false;
+  }
+}
+
+void CheckStub(std::string_view stub) {
+  // The run-time takes the first of either marker in its file for its own.
+  if (Contains(stub, StartMarker()) || Contains(stub, NameEndMarker())) {
+    throw PackError("the stub already holds a program or a marker text: "
+                    "the packed file would not run this program");
+  }
+}
+
+std::string PackProgram(const std::string& programName, const std::vector<SourceUnit>& units) {
+  std::string out;
+  WriteProgram(programName, units, [&out](std::string_view piece) { out += piece; });
+  return out;
 }
 
 std::string PackExecutable(std::string_view stub, const std::string& programName,
                            const std::vector<SourceUnit>& units) {
+  CheckStub(stub);
   std::string bytes(stub);
-  bytes += PackProgram(programName, units);
-  if (!ReadsBackAs(bytes, programName, units)) {
+  const PackedDigest digest =
+      WriteProgram(programName, units, [&bytes](std::string_view piece) { bytes += piece; });
+  if (!ReadsBackAs(bytes, digest)) {
     throw PackError("the stub already holds a program or a marker text: "
                     "the packed file would not run this program");
   }

@@ -2,6 +2,8 @@
 // that ReadProgramImage reads back, each text encoded with EncodeText.
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -47,6 +49,25 @@ std::vector<SourceUnit> LoadSourceUnits(const std::vector<std::string>& paths);
 // takes a key whose encoding holds no separator and no end of the payload,
 // so that it reads back whole.
 std::string PackProgram(const std::string& programName, const std::vector<SourceUnit>& units);
+
+// What a packed file must read back as, without keeping the texts: the
+// program's name, and a digest of each unit's name and text.
+struct PackedDigest {
+  std::string programName;
+  std::vector<std::size_t> units;
+};
+
+// The layout for `units`, handed piece by piece to `write`; each unit's text
+// is released once it is encoded, so that a large source is held about
+// twice at most. Refuses what PackProgram refuses.
+PackedDigest WriteProgram(const std::string& programName, std::vector<SourceUnit> units,
+                          const std::function<void(std::string_view)>& write);
+
+// True when `fileBytes` reads back as the packed program of `digest`.
+bool ReadsBackAs(std::string_view fileBytes, const PackedDigest& digest);
+
+// Refuses a stub that already holds a program or a marker text.
+void CheckStub(std::string_view stub);
 
 // `stub` followed by the layout, checked by reading it back: a stub that
 // already holds a program or a marker text is refused.

@@ -1,8 +1,10 @@
 #include "image/program_image.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 
@@ -32,11 +34,12 @@ long Position(std::string_view text, std::string_view part) {
   return at == std::string_view::npos ? 0 : static_cast<long>(at) + 1;
 }
 
-std::string Cut(std::string_view text, long start, long length) {
+// A view into `text`: a program's blobs are decoded from where they lie.
+std::string_view Cut(std::string_view text, long start, long length) {
   if (length < 0) Throw(kInvalidCall);
   const auto from = static_cast<std::size_t>(start - 1);
   if (from >= text.size()) return {};
-  return std::string(text.substr(from, static_cast<std::size_t>(length)));
+  return text.substr(from, static_cast<std::size_t>(length));
 }
 
 // Decodes the blob in front of `separator` and drops both.
@@ -45,6 +48,20 @@ std::string TakeBlob(std::string_view& rest, std::string_view separator) {
   std::string blob = DecodeText(Cut(rest, 1, at - 1));
   rest.remove_prefix(static_cast<std::size_t>(at - 1) + separator.size());
   return blob;
+}
+
+std::string_view PayloadOf(std::string_view fileBytes, std::string_view name) {
+  std::string key = Upper(name);
+  // Meant to drop an extension; a name shorter than four cuts to a fault.
+  if (Contains(key, ".")) key = std::string(Cut(key, 1, static_cast<long>(key.size()) - 4));
+  const std::string start = StartMarker() + key + NameEndMarker();
+  const long startAt = Position(fileBytes, start);
+  const long payloadEnd = Position(fileBytes, EndMarker() + key);
+  // A start that no longer matches (a dot cut the name) gives the empty
+  // payload as well, though the shorter name may still find an end.
+  if (startAt == 0 || payloadEnd < 1) return {};
+  const long payloadStart = startAt + static_cast<long>(start.size());
+  return Cut(fileBytes, payloadStart, payloadEnd - payloadStart);
 }
 
 long FaultForErrno(int error) {
@@ -70,25 +87,15 @@ ProgramImage ReadProgramImage(std::string_view fileBytes) {
   const long nameEnd = Position(fileBytes, NameEndMarker());
   if (nameEnd == 0) return image;
   image.hasProgram = true;
-  const std::string name = Cut(fileBytes, nameStart, nameEnd - nameStart);
-  SplitSourceUnits(SplitProgramImage(fileBytes, name), image);
+  const std::string name(Cut(fileBytes, nameStart, nameEnd - nameStart));
+  SplitSourceUnits(PayloadOf(fileBytes, name), image);
   image.programName = name + ".ZRC";
   image.apiLibraryUsed = ApiLibraryUsed(image.codes);
   return image;
 }
 
 std::string SplitProgramImage(std::string_view fileBytes, std::string_view name) {
-  std::string key = Upper(name);
-  // Meant to drop an extension; a name shorter than four cuts to a fault.
-  if (Contains(key, ".")) key = Cut(key, 1, static_cast<long>(key.size()) - 4);
-  const std::string start = StartMarker() + key + NameEndMarker();
-  const long startAt = Position(fileBytes, start);
-  const long payloadEnd = Position(fileBytes, EndMarker() + key);
-  // A start that no longer matches (a dot cut the name) gives the empty
-  // payload as well, though the shorter name may still find an end.
-  if (startAt == 0 || payloadEnd < 1) return {};
-  const long payloadStart = startAt + static_cast<long>(start.size());
-  return Cut(fileBytes, payloadStart, payloadEnd - payloadStart);
+  return std::string(PayloadOf(fileBytes, name));
 }
 
 void SplitSourceUnits(std::string_view payload, ProgramImage& image) {
@@ -102,8 +109,12 @@ void SplitSourceUnits(std::string_view payload, ProgramImage& image) {
 }
 
 bool ApiLibraryUsed(const std::array<std::string, kCodeSlots>& codes) {
+  // Searched in place, without an upper-case copy of a large program.
+  constexpr std::string_view kWords = "API LIBRARY";
+  const auto sameLetter = [](char a, char b) { return UpperChar(a) == b; };
   for (std::size_t unit = 0; unit < kSourceUnits; ++unit) {
-    if (Contains(Upper(codes[unit]), "API LIBRARY")) return true;
+    const std::string& code = codes[unit];
+    if (std::search(code.begin(), code.end(), kWords.begin(), kWords.end(), sameLetter) != code.end()) return true;
   }
   return false;
 }
@@ -142,17 +153,24 @@ std::string ReadWholeFile(const std::string& path) {
   const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (fd < 0) Throw(FaultForErrno(errno));
   std::string bytes;
-  char buffer[65536];
-  for (;;) {
-    const ssize_t got = ::read(fd, buffer, sizeof buffer);
-    if (got == 0) break;
-    if (got < 0) {
-      if (errno == EINTR) continue;
-      const int error = errno;
-      ::close(fd);
-      Throw(FaultForErrno(error));
+  try {
+    // Room for the whole file at once: a large file is held once, not
+    // once and a half while its buffer grows.
+    struct stat info {};
+    if (::fstat(fd, &info) == 0 && info.st_size > 0) bytes.reserve(static_cast<std::size_t>(info.st_size));
+    char buffer[65536];
+    for (;;) {
+      const ssize_t got = ::read(fd, buffer, sizeof buffer);
+      if (got == 0) break;
+      if (got < 0) {
+        if (errno == EINTR) continue;
+        Throw(FaultForErrno(errno));
+      }
+      bytes.append(buffer, static_cast<std::size_t>(got));
     }
-    bytes.append(buffer, static_cast<std::size_t>(got));
+  } catch (...) {
+    ::close(fd);
+    throw;
   }
   ::close(fd);
   return bytes;

@@ -78,13 +78,13 @@ TEST(DrawingTest, RgbKeepsTheLowByteOfEachSixteenBitValue) {
   ProgramRun run("OK");
   run.Run(Lines({"Write RGB(255, 128, 1)", "Write RGB(256 + 2, 0, -1)", "Write RGB(40000, 0, 0)"}));
   EXPECT_EQ(run.Written(), (Texts{"98559", "16711682", ""}));
-  EXPECT_EQ(run.Boxes(), Texts{QueryBoxLine("Editor: 0 Line: 3\\r\\nError in command RGB: Overflow")});
+  EXPECT_EQ(run.Boxes(), Texts{QueryBoxLine("Editor: 0 Line: 3\\rError in command RGB: Overflow")});
 }
 
 TEST(DrawingTest, AFigureThatOverflowsShowsTheErrorOfItsCommand) {
   ProgramRun run("OK");
   run.Run("Circle 1, 1, 300000000, 255");
-  EXPECT_EQ(run.Boxes(), Texts{QueryBoxLine("Editor: 0 Line: 1\\r\\nError in command Circle: Overflow")});
+  EXPECT_EQ(run.Boxes(), Texts{QueryBoxLine("Editor: 0 Line: 1\\rError in command Circle: Overflow")});
   EXPECT_TRUE(run.desktop.surface.drawn.empty());
 }
 

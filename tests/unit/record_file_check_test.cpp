@@ -1,10 +1,12 @@
-// The check of tamrix-db on sound and damaged record files.
+// The check and the repair of tamrix-db on sound and damaged record files.
 #include <gtest/gtest.h>
 
 #include <functional>
 
 #include "data/data_file.h"
 #include "data/record_file_check.h"
+#include "data/record_file_repair.h"
+#include "data/record_file.h"
 #include "data/record_layout.h"
 #include "data/scrambled_value.h"
 #include "data_test_support.h"
@@ -43,10 +45,27 @@ TEST(RecordFileCheckTest, ASoundFilePasses) {
   EXPECT_TRUE(result.problems.empty()) << result.problems[0];
   EXPECT_TRUE(result.notes.empty());
   EXPECT_EQ(result.deleted, 1);
-  // A record written at the count's position is worth a note only.
-  const CheckResult longer = Check(folder, SoundFile() + std::string(kLength, ' '));
-  EXPECT_TRUE(longer.problems.empty());
-  EXPECT_EQ(longer.notes.size(), 1u);
+}
+
+// A taken lock byte and a count that is not the number of records are
+// problems of their own, and the records that stand in the file are still
+// checked.
+TEST(RecordFileCheckTest, ALockOrACountOutOfStepIsAProblemOfItsOwn) {
+  TempFolder folder;
+  std::string locked = SoundFile();
+  locked[0] = '1';
+  EXPECT_EQ(Check(folder, locked).problems,
+            std::vector<std::string>{"the lock byte is \"1\", not \"0\": every record command waits for it"});
+  std::string ahead = SoundFile();
+  PutCount(ahead, 4);
+  ahead[19999 + 4] = ' ';  // record 0 is damaged too
+  const CheckResult aheadResult = Check(folder, ahead);
+  ASSERT_EQ(aheadResult.problems.size(), 2u);
+  EXPECT_EQ(aheadResult.problems[0], "the count runs ahead of the data: it says 4 records, the file holds 3");
+  EXPECT_EQ(aheadResult.problems[1].rfind("record 0, field Id:", 0), 0u);
+  const CheckResult behind = Check(folder, SoundFile() + std::string(kLength, ' '));
+  ASSERT_EQ(behind.problems.size(), 1u);
+  EXPECT_EQ(behind.problems[0].rfind("the count is behind the data: it says 3 records, the file holds 4", 0), 0u);
 }
 
 struct Damage {
@@ -59,7 +78,7 @@ TEST(RecordFileCheckTest, DamageIsFoundAndNamed) {
   const Damage damages[] = {
       {"busy lock", [](std::string& b) { b[0] = '1'; }, "the lock byte is \"1\""},
       {"short header", [](std::string& b) { b.resize(12000); }, "header: the file is shorter"},
-      {"missing record", [](std::string& b) { b.resize(b.size() - kLength); }, "the count of 3 records needs"},
+      {"missing record", [](std::string& b) { b.resize(b.size() - kLength); }, "the count runs ahead of the data"},
       {"stray bytes", [](std::string& b) { b += "xy"; }, "2 bytes behind the last record"},
       {"count text", [](std::string& b) { PutArea(b, zrf::kCount, "three"); }, "record count: Type mismatch"},
       {"record length", [](std::string& b) { PutArea(b, zrf::kRecordLength, "25"); }, "the record length is 25"},
@@ -95,6 +114,114 @@ TEST(RecordFileCheckTest, TheListOfProblemsEndsAtAHundred) {
   EXPECT_EQ(result.problems.size(), 100u);
   ASSERT_EQ(result.notes.size(), 1u);
   EXPECT_EQ(result.notes[0], "records from 53 on are not checked: 100 problems are listed");
+}
+
+struct RepairCase {
+  const char* name;
+  std::function<void(std::string&)> damage;
+  std::vector<std::string> done;
+  std::int32_t count;  // after the repair
+};
+
+TEST(RecordFileRepairTest, FreesTheLockAndCountsTheRecordsPresentAfterABackup) {
+  const RepairCase cases[] = {
+      {"lock taken", [](std::string& b) { b[0] = '1'; }, {"the lock byte \"1\" is freed"}, 3},
+      {"count ahead",
+       [](std::string& b) {
+         b[0] = '1';
+         PutCount(b, 999999);
+       },
+       {"the lock byte \"1\" is freed", "the count 999999 is set to the 3 records the file holds"},
+       3},
+      {"count behind", [](std::string& b) { PutCount(b, 1); }, {"the count 1 is set to the 3 records the file holds"}, 3},
+      {"record cut short",
+       [](std::string& b) {
+         PutCount(b, 3);
+         b += std::string(kLength / 2, 'x');
+       },
+       {"the 12 bytes of a record cut short are removed"},
+       3},
+      {"every record cut short",
+       [](std::string& b) { b.resize(19999 + kLength - 1); },
+       {"the count 3 is set to the 0 records the file holds", "the 22 bytes of a record cut short are removed"},
+       0},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    TempFolder folder;
+    std::string bytes = SoundFile();
+    c.damage(bytes);
+    const std::string path = folder / "Pessoas.Zrf";
+    WriteBytes(path, bytes);
+    EXPECT_FALSE(CheckRecordFile(*DataFile::Open(path, FileMode::Input)).problems.empty());
+
+    const RepairResult result = RepairRecordFile(path);
+    EXPECT_FALSE(result.refused) << result.reason;
+    EXPECT_EQ(result.done, c.done);
+    EXPECT_EQ(result.backup, path + ".bak");
+    EXPECT_EQ(ReadBytes(path + ".bak"), bytes);
+    const CheckResult after = CheckRecordFile(*DataFile::Open(path, FileMode::Input));
+    EXPECT_TRUE(after.problems.empty()) << after.problems[0];
+    EXPECT_EQ(ReadRecordCount(*DataFile::Open(path, FileMode::Input)), c.count);
+  }
+}
+
+TEST(RecordFileRepairTest, LeavesASoundFileAloneAndKeepsEarlierBackups) {
+  TempFolder folder;
+  const std::string path = folder / "Pessoas.Zrf";
+  WriteBytes(path, SoundFile());
+  const RepairResult sound = RepairRecordFile(path);
+  EXPECT_FALSE(sound.refused);
+  EXPECT_TRUE(sound.done.empty());
+  EXPECT_FALSE(std::filesystem::exists(path + ".bak"));
+
+  std::string locked = SoundFile();
+  locked[0] = '1';
+  WriteBytes(path, locked);
+  WriteBytes(path + ".bak", "older");
+  EXPECT_EQ(RepairRecordFile(path).backup, path + ".bak2");
+  EXPECT_EQ(ReadBytes(path + ".bak"), "older");
+}
+
+// A program that has the file open holds its in-use mark: it may be adding,
+// and a repair would roll its count back.
+TEST(RecordFileRepairTest, RefusesWhileAProgramHasTheFileOpen) {
+  TempFolder folder;
+  const std::string path = folder / "Pessoas.Zrf";
+  std::string locked = SoundFile();
+  locked[0] = '1';
+  WriteBytes(path, locked);
+  {
+    const auto program = DataFile::Open(path, FileMode::Binary);
+    program->MarkInUse();
+    const RepairResult result = RepairRecordFile(path);
+    EXPECT_TRUE(result.refused);
+    EXPECT_EQ(ReadBytes(path), locked);
+    EXPECT_FALSE(std::filesystem::exists(path + ".bak"));
+  }
+  EXPECT_FALSE(RepairRecordFile(path).refused);
+  EXPECT_TRUE(RepairRecordFile(folder / "Missing.Zrf").refused);
+  WriteBytes(path, "short");
+  EXPECT_TRUE(RepairRecordFile(path).refused);
+}
+
+// A header that claims 999,999 records, the most it can hold: the damage is told once
+// and only the three records that stand in the file are shown.
+TEST(RecordFileDumpTest, ACountPastTheFileIsToldOnce) {
+  TempFolder folder;
+  std::string bytes = SoundFile();
+  PutCount(bytes, 999999);
+  const std::string path = folder / "Pessoas.Zrf";
+  WriteBytes(path, bytes);
+  std::vector<std::string> lines;
+  DumpRecordFile(*DataFile::Open(path, FileMode::Input), [&](const std::string& line) {
+    if (lines.size() < 100) lines.push_back(line);
+  });
+  ASSERT_EQ(lines.size(), 14u);
+  EXPECT_EQ(lines[1], "records: 999999");
+  EXPECT_EQ(lines[10], "damage: the count says 999999 records, the file holds 3; only those are shown");
+  EXPECT_EQ(lines[11], "record 0: Id=0 Nome=\"name 0\"");
+  EXPECT_EQ(lines[12], "record 1: deleted");
 }
 
 TEST(RecordFileCheckTest, ValuesReadAsText) {

@@ -32,6 +32,18 @@ TEST(WriteTest, EachWriteStartsANewLineAtTheCursorsColumn) {
                                      "write\tPARENT\t80\t49\tq"}));
 }
 
+// Only WriteX and WriteY are shared: a Write on another window must not move
+// the main window's line, and Position and Cls act on the current surface.
+TEST(WriteTest, EveryWindowKeepsItsOwnCursor) {
+  ProgramRun run;
+  run.Run(Lines({"Write \"a\"", "NewWindow SET, W", "NewWindow W.USE", "Write \"w1\"", "Write \"w2\"",
+                 "NewWindow PARENT.USE", "Write \"b\"", "NewWindow W.USE", "Position 2, 1", "NewWindow PARENT.USE",
+                 "Write \"c\"", "Cls", "Write \"d\"", "NewWindow W.USE", "Write \"e\""}));
+  EXPECT_EQ(OutputLines(run), (Texts{"write\tPARENT\t0\t0\ta", "write\tW\t0\t0\tw1", "write\tW\t0\t28\tw2",
+                                     "write\tPARENT\t0\t14\tb", "write\tPARENT\t0\t56\tc",
+                                     "write\tPARENT\t0\t0\td", "write\tW\t8\t28\te"}));
+}
+
 TEST(WriteTest, WindowTitleSetsTheCaptionAndKeepsTheCursor) {
   ProgramRun run;
   run.Run(Lines({"Write \"a\"", "Write \"Ti\", \"tle\", WINDOWTITLE", "Write \"b\"", "Write windowtitle, 7"}));
@@ -47,7 +59,7 @@ TEST(WriteTest, AsAFunctionItWritesAndGivesTrue) {
 }
 
 TEST(WriteTest, AnOverflowOfTheCursorShowsTheCommandErrorBox) {
-  const std::string box = "Editor: 0 Line: 2\\r\\nError in command Write: Overflow";
+  const std::string box = "Editor: 0 Line: 2\\rError in command Write: Overflow";
   {
     ProgramRun run("Cancel");
     run.Run(Lines({"Position 2340, 0", "Write \"a\"", "Write \"b\""}));
@@ -59,14 +71,14 @@ TEST(WriteTest, AnOverflowOfTheCursorShowsTheCommandErrorBox) {
     run.Run(Lines({"Position 2340, 0", "Write \"a\"", "Write \"b\""}));
     EXPECT_EQ(run.Written(), (Texts{"a", "b"}));
     EXPECT_EQ(run.Boxes(), (Texts{QueryBoxLine(box, "OK"),
-                                  QueryBoxLine("Editor: 0 Line: 3\\r\\nError in command Write: Overflow", "OK")}));
+                                  QueryBoxLine("Editor: 0 Line: 3\\rError in command Write: Overflow", "OK")}));
   }
 }
 
 TEST(PositionTest, ACursorBeyondSixteenBitsIsAnError) {
   ProgramRun run;
   run.Run(Lines({"Position 3000, 0"}));
-  EXPECT_EQ(run.Boxes(), Texts{QueryBoxLine("Editor: 0 Line: 1\\r\\nError in command Position: Overflow")});
+  EXPECT_EQ(run.Boxes(), Texts{QueryBoxLine("Editor: 0 Line: 1\\rError in command Position: Overflow")});
 }
 
 TEST(ClearTest, ClsAndClearWindowIgnoreTheirArguments) {

@@ -103,6 +103,29 @@ TEST_F(VariableStoreTest, ArraySizesComeFromALeadingNumber) {
   EXPECT_EQ(store.GetVariable("c(2)"), Value(std::int32_t{8}));
 }
 
+// Array sizes are bounded by one memory budget for all slots, not by a
+// fixed count per type: twenty million integers take 80 MB.
+TEST_F(VariableStoreTest, LargeArraysFitTheMemoryBudgetAndLargerOnesFaultBeforeAllocating) {
+  store.DeclareArray("big(20000000)", "Integer");
+  store.SetVariable("big(19999999)", 5, true);
+  EXPECT_EQ(store.GetVariable("big(19999999)"), Value(std::int32_t{5}));
+
+  const std::uint64_t budget = VariableStore::SlotBudgetBytes();
+  const std::uint64_t tooMany = budget / sizeof(std::string) + 1;
+  ASSERT_LT(tooMany, std::uint64_t{2000000000}) << "a machine this large needs another probe";
+  try {
+    store.DeclareArray("huge(" + std::to_string(tooMany) + ")", "String");
+    ADD_FAILURE() << "an array past the budget was declared";
+  } catch (const RuntimeFault& fault) {
+    EXPECT_EQ(fault.Number(), kOutOfMemory);
+  }
+  EXPECT_EQ(store.VarIndex("huge"), -1);
+  // What the budget leaves is shared by all types: the integers already
+  // declared count against a String array that would just fit alone.
+  const std::uint64_t fitsAlone = budget / sizeof(std::string);
+  EXPECT_THROW(store.DeclareArray("rest(" + std::to_string(fitsAlone) + ")", "String"), RuntimeFault);
+}
+
 TEST_F(VariableStoreTest, NamesAreKeptToFiftyCharacters) {
   const std::string fifty(50, 'N');
   const std::string fiftyOne = fifty + "X";
