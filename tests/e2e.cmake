@@ -38,3 +38,10 @@ if(TAMRIX_XVFB_RUN)
     set_tests_properties(examples_on_xvfb.${example} PROPERTIES TIMEOUT 90)
   endforeach()
 endif()
+if(TAMRIX_XVFB_RUN)
+  add_test(NAME examples_on_xvfb.form
+    COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/run_example_on_xvfb.sh
+      $<TARGET_FILE:tamrix-pack> $<TARGET_FILE:tamrix_snapshot_pixels> form
+      ${CMAKE_CURRENT_BINARY_DIR}/examples/form)
+  set_tests_properties(examples_on_xvfb.form PROPERTIES TIMEOUT 90)
+endif()

@@ -81,7 +81,7 @@ std::string WriteRichText(const QTextDocument& document) {
     out += "\\red" + std::to_string(colour.red()) + "\\green" + std::to_string(colour.green()) + "\\blue" +
            std::to_string(colour.blue()) + ";";
   }
-  out += "}\r\n\\pard " + body + "\\par\r\n}\r\n";
+  out += "}\r\n\\pard " + body + "\r\n}\r\n";
   return out;
 }
 

@@ -304,8 +304,7 @@ class QtChoiceControl final : public EntryControlBase, public ChoiceControl {
   void FitToCaption(int extraPixels) override {
     if (Widget() == nullptr) return;
     const QFontMetrics metrics(button_->font());
-    button_->resize(metrics.horizontalAdvance(button_->text()) + extraPixels,
-                    std::max(button_->height(), metrics.height() + 4));
+    button_->resize(metrics.horizontalAdvance(button_->text()) + extraPixels, button_->sizeHint().height());
   }
   void SetChoice(int value, bool raiseClick) override {
     if (Widget() == nullptr) return;
