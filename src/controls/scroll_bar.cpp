@@ -68,6 +68,12 @@ void ScrollBar::SetMax(std::int32_t max) {
 
 int ScrollBar::Along(QPointF point) const { return static_cast<int>(vertical_ ? point.y() : point.x()); }
 
+// A hidden bar gets no resize events: the layout follows its size when it
+// is used.
+void ScrollBar::Sync() {
+  if (model_.Length() != (vertical_ ? height() : width())) LayOut();
+}
+
 // The bar keeps its thickness; the thumb is as long as a button, or shorter
 // on a bar too short for three.
 void ScrollBar::LayOut() {
@@ -92,6 +98,7 @@ void ScrollBar::Report() {
 }
 
 void ScrollBar::paintEvent(QPaintEvent*) {
+  Sync();
   QPainter painter(this);
   painter.fillRect(rect(), kTrackColour);
   const int button = model_.ButtonLength();
@@ -120,6 +127,7 @@ void ScrollBar::paintEvent(QPaintEvent*) {
 }
 
 void ScrollBar::mousePressEvent(QMouseEvent* event) {
+  Sync();
   if (event->button() != Qt::LeftButton) return;
   setFocus(Qt::MouseFocusReason);
   const int at = Along(event->position());
@@ -148,6 +156,7 @@ void ScrollBar::mousePressEvent(QMouseEvent* event) {
 }
 
 void ScrollBar::mouseMoveEvent(QMouseEvent* event) {
+  Sync();
   if (held_ != Held::Thumb || !rect().contains(event->position().toPoint())) return;
   model_.DragThumbTo(Along(event->position()) - grip_);
   update();
@@ -187,6 +196,7 @@ void ScrollBar::Tick() {
 }
 
 void ScrollBar::keyPressEvent(QKeyEvent* event) {
+  Sync();
   const int code = VirtualKeyCode(*event);
   const int forward = vertical_ ? kVirtualKeyDown : kVirtualKeyRight;
   const int backward = vertical_ ? kVirtualKeyUp : kVirtualKeyLeft;

@@ -50,6 +50,7 @@ class ScrollBar : public QWidget {
 
   // Along the bar: x when horizontal, y when vertical.
   int Along(QPointF point) const;
+  void Sync();
   void LayOut();
   void Report();
   void Tick();

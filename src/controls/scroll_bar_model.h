@@ -45,6 +45,9 @@ class ScrollBarModel {
   void DragThumbTo(int start);
   // A press on the track at `at`: the thumb starts there, or at its limit.
   void PressTrack(int at);
+  // Where the thumb is drawn: where a drag left it, else by the formula.
+  int DrawnThumbStart() const { return dragStart_ >= 0 ? dragStart_ : ThumbStart(); }
+  void EndDrag() { dragStart_ = -1; }
 
  private:
   std::int32_t ValueAt(int start) const;
@@ -57,11 +60,6 @@ class ScrollBarModel {
   int button_ = 0;
   int thumb_ = 0;
   int dragStart_ = -1;  // the thumb's start while dragged, else -1
-
- public:
-  // Where the thumb is drawn: where a drag left it, else by the formula.
-  int DrawnThumbStart() const { return dragStart_ >= 0 ? dragStart_ : ThumbStart(); }
-  void EndDrag() { dragStart_ = -1; }
 };
 
 }  // namespace tamrix

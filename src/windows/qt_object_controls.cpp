@@ -34,11 +34,14 @@ ObjectControl& QtObjectControls::Load(ObjectKind kind, int index, const std::str
     });
     if (existing != controls_.end()) return **existing;
   }
-  std::unique_ptr<QtObjectControl> made = kind == ObjectKind::Button ? MakeButton(index, window, &window == &main_)
-                                                                     : MakeEntryControl(kind, index, window, &window == &main_, lookup_,
-                                                                                        [this](const EventRelay::Event& event) {
-                                                                                          if (relay_ != nullptr) relay_->Deliver(event);
-                                                                                        });
+  // The relay is read when an event comes, not when the control is made.
+  const EventSink sink = [this](const EventRelay::Event& event) {
+    if (relay_ != nullptr) relay_->Deliver(event);
+  };
+  const bool onMain = &window == &main_;
+  std::unique_ptr<QtObjectControl> made = kind == ObjectKind::Button
+                                              ? MakeButton(index, window, onMain)
+                                              : MakeEntryControl(kind, index, window, onMain, lookup_, sink);
   if (!made) Throw(kInvalidCall);  // a kind without a control yet
   controls_.push_back(std::move(made));
   return *controls_.back();
