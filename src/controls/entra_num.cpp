@@ -54,10 +54,7 @@ EntraNum::EntraNum(QWidget* parent) : QWidget(parent), txtAux_(new QLineEdit(thi
 
 void EntraNum::SetValue(double value) {
   txtAux_->setText(QString::fromStdString(PlainNumber(value)));
-  const double before = value_;
   FormataNumero();
-  // Reported even when it stays, so that the variable follows the program.
-  if (value_ == before) emit Changed(value_);
 }
 
 void EntraNum::SetCasas(int casas) {

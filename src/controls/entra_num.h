@@ -18,7 +18,7 @@ class EntraNum : public QWidget {
   explicit EntraNum(QWidget* parent = nullptr);
 
   double Value() const { return value_; }
-  // The field shows the number and reports the change.
+  // The field shows the number; a new value is reported.
   void SetValue(double value);
   int Casas() const { return casas_; }
   void SetCasas(int casas);
@@ -31,7 +31,8 @@ class EntraNum : public QWidget {
   QString Shown() const { return shown_; }
 
  signals:
-  // The value changed, by typing or by the program.
+  // The value changed, by typing or by the program; a value set again is
+  // no change.
   void Changed(double value);
   void Clicked();
   void DoubleClicked();
