@@ -2,10 +2,11 @@
 
 #include <QCheckBox>
 #include <QDesktopServices>
+#include <QEvent>
 #include <QFontMetrics>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QTextBlock>
+#include <QTextCursor>
 #include <QUrl>
 
 #include "commands/dates/date_time.h"
@@ -24,7 +25,6 @@
 #include "windows/colour_ref.h"
 #include "windows/run_time_widget.h"
 #include "windows/screen_text.h"
-#include "windows/window_metrics.h"
 
 namespace tamrix {
 namespace {
