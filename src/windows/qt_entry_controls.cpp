@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QDesktopServices>
+#include <QDir>
 #include <QEvent>
 #include <QFontMetrics>
 #include <QLineEdit>
@@ -437,7 +438,9 @@ class LinkBox : public QLineEdit {
   void mouseDoubleClickEvent(QMouseEvent*) override {
     const QString target = property("tamrixTarget").toString();
     doubleClicked_();
-    if (!target.isEmpty()) QDesktopServices::openUrl(QUrl::fromUserInput(target));
+    if (!target.isEmpty()) {
+      QDesktopServices::openUrl(QUrl::fromUserInput(target, QDir::currentPath(), QUrl::AssumeLocalFile));
+    }
     if (auto* window = dynamic_cast<RunTimeWidget*>(this->window())) window->FocusKeyCatcher();
   }
 
