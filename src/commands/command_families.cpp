@@ -16,6 +16,7 @@ void RegisterCoreCommandFamilies(Dispatcher& dispatcher) {
   RegisterGetTextCommand(dispatcher);
   RegisterEventCommands(dispatcher);
   RegisterDrawingCommands(dispatcher);
+  RegisterEntryCommands(dispatcher);
 }
 
 void RegisterCoreCommandFamilies(Interpreter& interpreter) {

@@ -18,6 +18,8 @@ void RegisterNewWindowCommand(Dispatcher& dispatcher);
 void RegisterGetTextCommand(Dispatcher& dispatcher);
 void RegisterEventCommands(Dispatcher& dispatcher);
 void RegisterDrawingCommands(Dispatcher& dispatcher);
+// Text, Mask, Currency, Calendar, Check, Radio, Label, Link, Frame, ScrollBar.
+void RegisterEntryCommands(Dispatcher& dispatcher);
 
 // All families above, in one call.
 void RegisterCoreCommandFamilies(Dispatcher& dispatcher);

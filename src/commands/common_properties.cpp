@@ -58,6 +58,11 @@ Value SetFocusProperty(ObjectCall& call) {
   return std::string();
 }
 
+Value TipProperty(ObjectCall& call) {
+  call.Control().SetToolTip(call.args.Text(kValue));
+  return std::string();
+}
+
 Value ParentProperty(ObjectCall& call) {
   Interpreter& in = call.interpreter;
   const int image = in.Objects().Find(ObjectKind::Image, call.args.Text(kValue));

@@ -20,6 +20,8 @@ Value FontNameProperty(ObjectCall& call);
 Value FontSizeProperty(ObjectCall& call);
 Value TabIndexProperty(ObjectCall& call);
 Value SetFocusProperty(ObjectCall& call);
+// The tooltip, from the value as text.
+Value TipProperty(ObjectCall& call);
 // The control goes into the window of the Image object named by the value;
 // nothing happens when there is no such image.
 Value ParentProperty(ObjectCall& call);

@@ -75,6 +75,11 @@ void RemoveObject(Interpreter& in, ObjectKind kind, int index) {
   ObjectEntry& entry = in.Objects().Family(kind).entries[static_cast<std::size_t>(index)];
   if (index == 0) {
     entry.control->SetVisible(false);
+    // A label's template goes back to the main window, enabled.
+    if (kind == ObjectKind::Label) {
+      entry.control->SetEnabled(true);
+      entry.control->MoveToWindow("PARENT");
+    }
   } else {
     in.Screen().Controls().Unload(*entry.control);
     entry.control = nullptr;

@@ -26,6 +26,8 @@ std::string FaultDescription(long number) {
     case kPathNotFound: return "Path not found";
     case kObjectNotSet: return "Object variable or With block variable not set";
     case kInvalidUseOfNull: return "Invalid use of Null";
+    case kInvalidPropertyValue: return "Invalid property value";
+    case kNotSupported: return "Object doesn't support this property or method";
     default: return "Application-defined or object-defined error";
   }
 }

@@ -45,6 +45,8 @@ enum FaultNumber : long {
   kPathNotFound = 76,
   kObjectNotSet = 91,
   kInvalidUseOfNull = 94,
+  kInvalidPropertyValue = 380,
+  kNotSupported = 438,
   // An error raised by the run-time itself: object error 1 (0x80040001).
   kRaisedByTamrix = -2147221503,
 };

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace tamrix {
@@ -94,6 +95,103 @@ class ButtonSkinStore {
   virtual void SetPicture(ButtonState state, const std::string& path) = 0;
   virtual void SetBackColor(std::int32_t colour) = 0;
   virtual void SetForeColor(std::int32_t colour) = 0;
+};
+
+// The look given to the selected part of a Text's rich text; a part left
+// empty stays as it is.
+struct SelectionLook {
+  std::optional<std::string> fontName;
+  std::optional<double> fontSize;
+  std::optional<bool> bold;
+  std::optional<std::int32_t> colour;
+};
+
+// Text: a single-line text box, or a multi-line rich text box. Positions
+// count characters from 0; a position beyond the text stands for its end.
+class TextEntryControl : public virtual ObjectControl {
+ public:
+  virtual void SetMultiLine(bool multiLine) = 0;
+  virtual std::string Text() const = 0;
+  virtual void SetText(const std::string& text) = 0;
+  // The text in Rich Text Format, and the text and its looks from it.
+  virtual std::string RichText() const = 0;
+  virtual void SetRichText(const std::string& rtf) = 0;
+  virtual void Select(int start, int length) = 0;
+  virtual void SelectAll() = 0;
+  virtual void SetSelectionLook(const SelectionLook& look) = 0;
+  // 0 left, 1 right, 2 centre.
+  virtual void SetAlignment(int alignment) = 0;
+  // 0: no limit.
+  virtual void SetMaxLength(int length) = 0;
+  virtual void SetRightMargin(int pixels) = 0;
+  virtual void SetCursorPosition(int position) = 0;
+  // The control's Tag; "NUMERICO" turns the numeric key filter on.
+  virtual void SetTag(const std::string& tag) = 0;
+};
+
+// Mask: a text box whose text always has the form of its mask.
+class MaskControl : public virtual ObjectControl {
+ public:
+  // A new mask empties the field to the mask's pattern.
+  virtual void SetMask(const std::string& mask) = 0;
+  virtual std::string Text() const = 0;
+  // The text must fit the mask.
+  virtual void SetText(const std::string& text) = 0;
+  virtual void SelectAll() = 0;
+};
+
+// Currency: the numeric entry field. A change of its value raises the change
+// event, whoever made it.
+class NumberEntryControl : public virtual ObjectControl {
+ public:
+  virtual double Number() const = 0;
+  virtual void SetNumber(double value) = 0;
+  virtual void SetDecimals(std::int16_t places) = 0;
+};
+
+// Calendar: a date field with its month picker. Dates are serial day
+// numbers (days since 30 December 1899); a change raises the change event.
+class DateEntryControl : public virtual ObjectControl {
+ public:
+  virtual double Date() const = 0;
+  virtual void SetDate(double serial) = 0;
+};
+
+// Check and Radio. A new value raises the click event as a user's click
+// does, unless `raiseClick` is false.
+class ChoiceControl : public virtual ObjectControl {
+ public:
+  virtual void SetCaption(const std::string& caption) = 0;
+  // The width becomes the caption's width in the control's font plus
+  // `extra` pixels.
+  virtual void FitToCaption(int extraPixels) = 0;
+  // Check: 0 off, 1 on, 2 grey; Radio: 0 off, 1 on.
+  virtual void SetChoice(int value, bool raiseClick) = 0;
+};
+
+// Label, Frame and Link: a caption and no value.
+class CaptionControl : public virtual ObjectControl {
+ public:
+  virtual void SetCaption(const std::string& caption) = 0;
+  // 0 left, 1 right, 2 centre.
+  virtual void SetAlignment(int alignment) = 0;
+  virtual void SetUnderline(bool underline) = 0;
+  // Link: what a double click opens.
+  virtual void SetTarget(const std::string& target) = 0;
+  // Link: width the caption's width, height its height plus `extraHeight`.
+  virtual void FitToCaption(int extraHeight) = 0;
+};
+
+// ScrollBar: a drawn horizontal or vertical bar. Every change of its value
+// raises the change event.
+class ScrollBarControl : public virtual ObjectControl {
+ public:
+  virtual void SetVertical(bool vertical) = 0;
+  virtual void SetMaximum(std::int32_t max) = 0;
+  virtual void SetSmallChange(std::int32_t step) = 0;
+  virtual void SetLargeChange(std::int32_t step) = 0;
+  virtual std::int32_t Position() const = 0;
+  virtual void SetPosition(std::int32_t value) = 0;
 };
 
 // Loads and unloads the instances of the kinds' templates.

@@ -46,6 +46,7 @@ struct ObjectEntry {
   std::string name;   // as given; "" = free
   std::string owner;  // the current window's name when it was made
   ObjectControl* control = nullptr;
+  bool multiLine = false;  // Text: the kind chosen at creation, MultiLine or not
 };
 
 struct ObjectFamily {

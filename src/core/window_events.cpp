@@ -135,6 +135,7 @@ void StopWindowTimers(Interpreter& in) {
     timer.running = false;
   }
   if (in.Windows().MouseTimer()) in.Windows().MouseTimer()->Stop();
+  if (in.Windows().TextTimer()) in.Windows().TextTimer()->Stop();
 }
 
 void OnWindowFocus(Interpreter& in, RunTimeWindow& window) {

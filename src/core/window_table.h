@@ -67,6 +67,8 @@ class WindowTable {
   std::array<StaticWindowTimer, kStaticWindowTimers>& StaticTimers() { return staticTimers_; }
   // Timer3: the screen-wide mouse position of MOUSEGENERAL.
   std::unique_ptr<DesktopTimer>& MouseTimer() { return mouseTimer_; }
+  // Timer2: mirrors the Text objects' texts into their variables.
+  std::unique_ptr<DesktopTimer>& TextTimer() { return textTimer_; }
   // How many windows are shown modally right now.
   int& ModalDepth() { return modalDepth_; }
 
@@ -82,6 +84,7 @@ class WindowTable {
   std::string pendingWindowCode_;
   std::array<StaticWindowTimer, kStaticWindowTimers> staticTimers_;
   std::unique_ptr<DesktopTimer> mouseTimer_;
+  std::unique_ptr<DesktopTimer> textTimer_;
   int modalDepth_ = 0;
 };
 

@@ -8,6 +8,7 @@
 #include "core/fault.h"
 #include "core/window_events.h"
 #include "windows/qt_button_control.h"
+#include "windows/qt_entry_controls.h"
 #include "windows/window_metrics.h"
 
 namespace tamrix {
@@ -33,8 +34,16 @@ ObjectControl& QtObjectControls::Load(ObjectKind kind, int index, const std::str
     });
     if (existing != controls_.end()) return **existing;
   }
-  if (kind != ObjectKind::Button) Throw(kInvalidCall);  // no other kind has a control yet
-  controls_.push_back(MakeButton(index, window, &window == &main_));
+  // The relay is read when an event comes, not when the control is made.
+  const EventSink sink = [this](const EventRelay::Event& event) {
+    if (relay_ != nullptr) relay_->Deliver(event);
+  };
+  const bool onMain = &window == &main_;
+  std::unique_ptr<QtObjectControl> made = kind == ObjectKind::Button
+                                              ? MakeButton(index, window, onMain)
+                                              : MakeEntryControl(kind, index, window, onMain, lookup_, sink);
+  if (!made) Throw(kInvalidCall);  // a kind without a control yet
+  controls_.push_back(std::move(made));
   return *controls_.back();
 }
 
