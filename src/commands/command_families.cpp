@@ -16,6 +16,10 @@ void RegisterCoreCommandFamilies(Dispatcher& dispatcher) {
   RegisterGetTextCommand(dispatcher);
   RegisterEventCommands(dispatcher);
   RegisterDrawingCommands(dispatcher);
+  RegisterPictureCommands(dispatcher);
+  RegisterImageCommands(dispatcher);
+  RegisterAnimatedGifCommands(dispatcher);
+  RegisterGradientCommand(dispatcher);
 }
 
 void RegisterCoreCommandFamilies(Interpreter& interpreter) {

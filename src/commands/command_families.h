@@ -18,6 +18,10 @@ void RegisterNewWindowCommand(Dispatcher& dispatcher);
 void RegisterGetTextCommand(Dispatcher& dispatcher);
 void RegisterEventCommands(Dispatcher& dispatcher);
 void RegisterDrawingCommands(Dispatcher& dispatcher);
+void RegisterPictureCommands(Dispatcher& dispatcher);
+void RegisterImageCommands(Dispatcher& dispatcher);
+void RegisterAnimatedGifCommands(Dispatcher& dispatcher);
+void RegisterGradientCommand(Dispatcher& dispatcher);
 
 // All families above, in one call.
 void RegisterCoreCommandFamilies(Dispatcher& dispatcher);
