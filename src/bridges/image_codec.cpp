@@ -42,6 +42,15 @@ struct MemoryDeleter {
   void operator()(FIMEMORY* memory) const { FreeImage_CloseMemory(memory); }
 };
 
+// Formats that FreeImage reads but that are refused: its PICT reader loops
+// forever on some damaged files, so no PICT file reaches it.
+constexpr FREE_IMAGE_FORMAT kRefusedFormats[] = {FIF_PICT};
+
+bool Readable(FREE_IMAGE_FORMAT format) {
+  if (format == FIF_UNKNOWN || !FreeImage_FIFSupportsReading(format)) return false;
+  return std::find(std::begin(kRefusedFormats), std::end(kRefusedFormats), format) == std::end(kRefusedFormats);
+}
+
 [[noreturn]] void InvalidPicture() {
   if (lastLibraryMessage.empty()) throw RuntimeFault(kInvalidPicture, "Invalid picture");
   throw RuntimeFault(kInvalidPicture, std::string(kLibraryLead) + lastLibraryMessage);
@@ -238,7 +247,7 @@ QImage LoadPictureBytes(std::string_view bytes, const std::string& name, const P
     format = FreeImage_GetFileTypeFromMemory(memory.get(), 0);
     if (format == FIF_UNKNOWN) format = FreeImage_GetFIFFromFilename(name.c_str());
   }
-  if (format == FIF_UNKNOWN || !FreeImage_FIFSupportsReading(format)) InvalidPicture();
+  if (!Readable(format)) InvalidPicture();
 
   // The header first where the format can read it alone, so that a huge
   // picture is refused before its pixels take the memory.
