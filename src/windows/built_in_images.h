@@ -1,6 +1,6 @@
 // The pictures of the `Img` catalogue (FrmImagens.Imagem) and the
 // animations of the `Gif` catalogue (FrmGifsAnimados.GifAni), drawn in code
-// on first use. They are Tamrix's own drawings, under the project's licence.
+// on first use. They are Tamrix's own drawings, public domain under CC0 1.0.
 #pragma once
 
 #include <QImage>
