@@ -111,23 +111,18 @@ QImage FromPaletteBitmap(FIBITMAP* bitmap, unsigned bpp) {
   return picture;
 }
 
+// Turned top row first, the bitmap's rows are read in place by Qt's own
+// converters: FreeImage keeps blue, green, red in memory, as Qt's BGR888
+// and, with alpha, its ARGB32 on little-endian machines.
 QImage FromTrueColourBitmap(FIBITMAP* bitmap, unsigned bpp) {
-  const unsigned width = FreeImage_GetWidth(bitmap);
-  const unsigned height = FreeImage_GetHeight(bitmap);
-  const unsigned pitch = FreeImage_GetPitch(bitmap);
-  const BYTE* bits = FreeImage_GetBits(bitmap);
   const bool alpha = bpp == 32 && FreeImage_IsTransparent(bitmap);
-  const unsigned step = bpp / 8;
-  QImage picture = NewPicture(width, height, alpha);
-  for (unsigned y = 0; y < height; ++y) {
-    const BYTE* row = bits + static_cast<std::size_t>(height - 1 - y) * pitch;
-    auto* out = reinterpret_cast<QRgb*>(picture.scanLine(static_cast<int>(y)));
-    for (unsigned x = 0; x < width; ++x) {
-      const BYTE* pixel = row + static_cast<std::size_t>(x) * step;
-      const int a = alpha ? pixel[FI_RGBA_ALPHA] : 255;
-      out[x] = qRgba(pixel[FI_RGBA_RED], pixel[FI_RGBA_GREEN], pixel[FI_RGBA_BLUE], a);
-    }
-  }
+  if (!FreeImage_FlipVertical(bitmap)) InvalidPicture();
+  const QImage rows(FreeImage_GetBits(bitmap), static_cast<int>(FreeImage_GetWidth(bitmap)),
+                    static_cast<int>(FreeImage_GetHeight(bitmap)), static_cast<qsizetype>(FreeImage_GetPitch(bitmap)),
+                    bpp == 24 ? QImage::Format_BGR888 : alpha ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+  // A conversion to the same format would share the bitmap's memory.
+  QImage picture = bpp == 24 ? rows.convertToFormat(QImage::Format_RGB32) : rows.copy();
+  if (picture.isNull()) Throw(kOutOfMemory);
   return picture;
 }
 

@@ -92,7 +92,10 @@ void QtImageControl::PaintFile(const std::string& path, int x, int y) {
 // From now on the size follows the picture; there is no way back.
 void QtImageControl::SetAutoSize() {
   autoSize_ = true;
-  if (!pictureSize_.isEmpty()) Image().resize(pictureSize_);
+  if (pictureSize_.isEmpty()) return;
+  Image().resize(pictureSize_);
+  ClearToWidget(Image());
+  Image().Surface().Refresh();
 }
 
 // The drawing as it shows is copied, the image cleared and the copy painted
