@@ -56,6 +56,28 @@ bool Readable(FREE_IMAGE_FORMAT format) {
   throw RuntimeFault(kInvalidPicture, std::string(kLibraryLead) + lastLibraryMessage);
 }
 
+[[noreturn]] void TooLarge(std::int64_t pixels) {
+  throw RuntimeFault(kOutOfMemory, "Out of memory: the picture has " + std::to_string(pixels) + " pixels");
+}
+
+std::uint32_t BigEndian32(std::string_view bytes, std::size_t at) {
+  std::uint32_t value = 0;
+  for (std::size_t i = 0; i < 4; ++i) value = (value << 8) | static_cast<unsigned char>(bytes[at + i]);
+  return value;
+}
+
+// FreeImage's PSD reader allocates for the size in the header even when it
+// is asked for the header alone: a few damaged bytes could ask for
+// gigabytes. The header is checked here first: the channels at 12 (a PSD
+// has at most 56), height at 14 and width at 18, all big-endian.
+void CheckPsdHeader(std::string_view bytes, std::int64_t maxPixels) {
+  constexpr std::uint32_t kMaxPsdChannels = 56;
+  if (bytes.size() < 26) return;
+  if ((BigEndian32(bytes, 10) & 0xFFFFu) > kMaxPsdChannels) InvalidPicture();
+  const auto pixels = std::int64_t{BigEndian32(bytes, 14)} * BigEndian32(bytes, 18);
+  if (pixels > maxPixels) TooLarge(pixels);
+}
+
 [[noreturn]] void RaiseCodecError(const std::string& text) { throw RuntimeFault(kRaisedByTamrix, text); }
 
 std::string PluginName(FREE_IMAGE_FORMAT format) {
@@ -243,15 +265,14 @@ QImage LoadPictureBytes(std::string_view bytes, const std::string& name, const P
     if (format == FIF_UNKNOWN) format = FreeImage_GetFIFFromFilename(name.c_str());
   }
   if (!Readable(format)) InvalidPicture();
+  if (format == FIF_PSD) CheckPsdHeader(bytes, load.maxPixels);
 
   // The header first where the format can read it alone, so that a huge
   // picture is refused before its pixels take the memory.
   Bitmap bitmap(FreeImage_LoadFromMemory(format, memory.get(), load.flags | FIF_LOAD_NOPIXELS));
   if (!bitmap) InvalidPicture();
   const auto pixels = std::int64_t{FreeImage_GetWidth(bitmap.get())} * FreeImage_GetHeight(bitmap.get());
-  if (pixels > load.maxPixels) {
-    throw RuntimeFault(kOutOfMemory, "Out of memory: the picture has " + std::to_string(pixels) + " pixels");
-  }
+  if (pixels > load.maxPixels) TooLarge(pixels);
   if (!FreeImage_HasPixels(bitmap.get())) {
     FreeImage_SeekMemory(memory.get(), 0, SEEK_SET);
     bitmap.reset(FreeImage_LoadFromMemory(format, memory.get(), load.flags));

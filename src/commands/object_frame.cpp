@@ -4,6 +4,7 @@
 
 #include "core/fault.h"
 #include "core/interpreter.h"
+#include "core/object_closing.h"
 #include "core/numbers.h"
 #include "core/text.h"
 
@@ -78,11 +79,7 @@ int FindObject(Interpreter& in, ObjectKind kind, std::string_view element0) {
 
 void RemoveObject(Interpreter& in, ObjectKind kind, int index) {
   ObjectEntry& entry = in.Objects().Family(kind).entries[static_cast<std::size_t>(index)];
-  // An image in use leaves the drawing to the Current Window again.
-  if (auto* image = dynamic_cast<ImageControl*>(entry.control);
-      image != nullptr && in.Windows().ImageSurface() == &image->Drawing()) {
-    in.Windows().UseImageSurface(nullptr);
-  }
+  ReleaseUsedImage(in, entry.control);
   if (index == 0) {
     entry.control->SetVisible(false);
   } else {
