@@ -133,40 +133,47 @@ QImage FromPaletteBitmap(FIBITMAP* bitmap, unsigned bpp) {
   return picture;
 }
 
-// Turned top row first, the bitmap's rows are read in place by Qt's own
-// converters: FreeImage keeps blue, green, red in memory, as Qt's BGR888
-// and, with alpha, its ARGB32 on little-endian machines.
-QImage FromTrueColourBitmap(FIBITMAP* bitmap, unsigned bpp) {
-  const bool alpha = bpp == 32 && FreeImage_IsTransparent(bitmap);
-  if (!FreeImage_FlipVertical(bitmap)) InvalidPicture();
-  const QImage rows(FreeImage_GetBits(bitmap), static_cast<int>(FreeImage_GetWidth(bitmap)),
-                    static_cast<int>(FreeImage_GetHeight(bitmap)), static_cast<qsizetype>(FreeImage_GetPitch(bitmap)),
-                    bpp == 24 ? QImage::Format_BGR888 : alpha ? QImage::Format_ARGB32 : QImage::Format_RGB32);
-  // A conversion to the same format would share the bitmap's memory.
-  QImage picture = bpp == 24 ? rows.convertToFormat(QImage::Format_RGB32) : rows.copy();
-  if (picture.isNull()) Throw(kOutOfMemory);
+// Turned top row first, the bitmap's own memory becomes the picture's, and
+// is unloaded with it: FreeImage keeps blue, green, red in memory, as Qt's
+// BGR888 does, so a photo is never copied. Bitmaps of 32 bits are copied,
+// opaque ones with their unused alpha byte set.
+QImage FromTrueColourBitmap(Bitmap bitmap, unsigned bpp) {
+  FIBITMAP* dib = bitmap.get();
+  const bool alpha = bpp == 32 && FreeImage_IsTransparent(dib);
+  if (!FreeImage_FlipVertical(dib)) InvalidPicture();
+  const int width = static_cast<int>(FreeImage_GetWidth(dib));
+  const int height = static_cast<int>(FreeImage_GetHeight(dib));
+  const auto pitch = static_cast<qsizetype>(FreeImage_GetPitch(dib));
+  if (bpp == 24) {
+    return QImage(
+        FreeImage_GetBits(dib), width, height, pitch, QImage::Format_BGR888,
+        [](void* owned) { FreeImage_Unload(static_cast<FIBITMAP*>(owned)); }, bitmap.release());
+  }
+  QImage picture = NewPicture(static_cast<unsigned>(width), static_cast<unsigned>(height), alpha);
+  for (int y = 0; y < height; ++y) {
+    const auto* in = reinterpret_cast<const QRgb*>(FreeImage_GetBits(dib) + y * pitch);
+    auto* out = reinterpret_cast<QRgb*>(picture.scanLine(y));
+    for (int x = 0; x < width; ++x) out[x] = alpha ? in[x] : in[x] | 0xFF000000u;
+  }
   return picture;
 }
 
 // The only place where a FreeImage bitmap becomes a picture of the window
 // side. Types other than plain bitmaps (16-bit channels, floats) and depths
 // other than 1, 4, 8, 24 and 32 are brought to a standard bitmap first.
-QImage ToPicture(FIBITMAP* bitmap) {
-  Bitmap standard;
-  if (FreeImage_GetImageType(bitmap) != FIT_BITMAP) {
-    standard.reset(FreeImage_ConvertToStandardType(bitmap, TRUE));
-    if (!standard) InvalidPicture();
-    bitmap = standard.get();
+QImage ToPicture(Bitmap bitmap) {
+  if (FreeImage_GetImageType(bitmap.get()) != FIT_BITMAP) {
+    bitmap.reset(FreeImage_ConvertToStandardType(bitmap.get(), TRUE));
+    if (!bitmap) InvalidPicture();
   }
-  unsigned bpp = FreeImage_GetBPP(bitmap);
+  unsigned bpp = FreeImage_GetBPP(bitmap.get());
   if (bpp != 1 && bpp != 4 && bpp != 8 && bpp != 24 && bpp != 32) {
-    standard.reset(FreeImage_ConvertTo32Bits(bitmap));
-    if (!standard) InvalidPicture();
-    bitmap = standard.get();
+    bitmap.reset(FreeImage_ConvertTo32Bits(bitmap.get()));
+    if (!bitmap) InvalidPicture();
     bpp = 32;
   }
-  if (FreeImage_GetBits(bitmap) == nullptr) InvalidPicture();
-  return bpp <= 8 ? FromPaletteBitmap(bitmap, bpp) : FromTrueColourBitmap(bitmap, bpp);
+  if (FreeImage_GetBits(bitmap.get()) == nullptr) InvalidPicture();
+  return bpp <= 8 ? FromPaletteBitmap(bitmap.get(), bpp) : FromTrueColourBitmap(std::move(bitmap), bpp);
 }
 
 // The other way: 32 bits for a picture with alpha, else 24. Error 481 when
@@ -279,7 +286,7 @@ QImage LoadPictureBytes(std::string_view bytes, const std::string& name, const P
     if (!bitmap || !FreeImage_HasPixels(bitmap.get())) InvalidPicture();
   }
   if (FreeImage_GetWidth(bitmap.get()) == 0 || FreeImage_GetHeight(bitmap.get()) == 0) InvalidPicture();
-  return ToPicture(bitmap.get());
+  return ToPicture(std::move(bitmap));
 }
 
 QImage LoadPicture(const std::string& path, const PictureLoad& load) {

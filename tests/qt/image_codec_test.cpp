@@ -55,6 +55,9 @@ class ImageCodecTest : public ::testing::Test {
     return path;
   }
 
+  // Pictures of 24 bits keep FreeImage's byte order; compared as RGB32.
+  static QImage Opaque(const QImage& picture) { return picture.convertToFormat(QImage::Format_RGB32); }
+
   template <typename Action>
   static RuntimeFault FaultOf(Action action) {
     try {
@@ -86,7 +89,7 @@ TEST_F(ImageCodecTest, PaletteBitmapsCarryTheirPalette) {
 TEST_F(ImageCodecTest, TrueColourRoundTrips) {
   for (const char* name : {"stripes.bmp", "stripes.png", "stripes.tif"}) {
     ASSERT_TRUE(SavePicture(Stripes(), File(name), kFormatNone, 0)) << name;
-    EXPECT_EQ(LoadPicture(File(name)), Stripes()) << name;
+    EXPECT_EQ(Opaque(LoadPicture(File(name))), Stripes()) << name;
   }
   QImage translucent(2, 1, QImage::Format_ARGB32);
   translucent.setPixel(0, 0, qRgba(10, 20, 30, 255));
@@ -106,7 +109,7 @@ TEST_F(ImageCodecTest, SavingAddsTheFormatsExtension) {
   ASSERT_TRUE(SavePicture(Stripes(), File("named.jpg"), kFormatBmp, 0));
   EXPECT_TRUE(fs::exists(File("named.jpg.bmp")));
   fs::rename(File("named.jpg.bmp"), File("misnamed.jpg"));
-  EXPECT_EQ(LoadPicture(File("misnamed.jpg")), Stripes());
+  EXPECT_EQ(Opaque(LoadPicture(File("misnamed.jpg"))), Stripes());
 }
 
 TEST_F(ImageCodecTest, JpegQualityTable) {
