@@ -66,15 +66,22 @@ std::uint32_t BigEndian32(std::string_view bytes, std::size_t at) {
   return value;
 }
 
-// FreeImage's PSD reader allocates for the size in the header even when it
-// is asked for the header alone: a few damaged bytes could ask for
-// gigabytes. The header is checked here first: the channels at 12 (a PSD
-// has at most 56), height at 14 and width at 18, all big-endian.
+// FreeImage's PSD reader allocates for the sizes in the header even when
+// it is asked for the header alone: a few damaged bytes could ask for
+// gigabytes. The header is checked here first, all big-endian: the version
+// at 4 (1, or 2 for large documents), the channels at 12 (at most 56), the
+// height at 14 and the width at 18 (1 to 300,000 each).
 void CheckPsdHeader(std::string_view bytes, std::int64_t maxPixels) {
   constexpr std::uint32_t kMaxPsdChannels = 56;
+  constexpr std::uint32_t kMaxPsdSide = 300000;
   if (bytes.size() < 26) return;
-  if ((BigEndian32(bytes, 10) & 0xFFFFu) > kMaxPsdChannels) InvalidPicture();
-  const auto pixels = std::int64_t{BigEndian32(bytes, 14)} * BigEndian32(bytes, 18);
+  const std::uint32_t version = BigEndian32(bytes, 2) & 0xFFFFu;
+  const std::uint32_t channels = BigEndian32(bytes, 10) & 0xFFFFu;
+  const std::uint32_t height = BigEndian32(bytes, 14);
+  const std::uint32_t width = BigEndian32(bytes, 18);
+  if ((version != 1 && version != 2) || channels > kMaxPsdChannels) InvalidPicture();
+  if (height == 0 || width == 0 || height > kMaxPsdSide || width > kMaxPsdSide) InvalidPicture();
+  const auto pixels = std::int64_t{height} * width;
   if (pixels > maxPixels) TooLarge(pixels);
 }
 
