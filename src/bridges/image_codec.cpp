@@ -43,8 +43,10 @@ struct MemoryDeleter {
 };
 
 // Formats that FreeImage reads but that are refused: its PICT reader loops
-// forever on some damaged files, so no PICT file reaches it.
-constexpr FREE_IMAGE_FORMAT kRefusedFormats[] = {FIF_PICT};
+// forever on some damaged files, and its DDS reader asks for any amount of
+// memory a damaged header names. Neither is a picture format of desktop
+// programs.
+constexpr FREE_IMAGE_FORMAT kRefusedFormats[] = {FIF_PICT, FIF_DDS};
 
 bool Readable(FREE_IMAGE_FORMAT format) {
   if (format == FIF_UNKNOWN || !FreeImage_FIFSupportsReading(format)) return false;
@@ -64,6 +66,33 @@ std::uint32_t BigEndian32(std::string_view bytes, std::size_t at) {
   std::uint32_t value = 0;
   for (std::size_t i = 0; i < 4; ++i) value = (value << 8) | static_cast<unsigned char>(bytes[at + i]);
   return value;
+}
+
+// A WBMP header is two fields, then the width and the height as integers
+// of 7 bits a byte, with the top bit set on all bytes but the last.
+// FreeImage's reader loops forever when the file ends inside them, and
+// allocates whatever they name: the header is read here first.
+void CheckWbmpHeader(std::string_view bytes, std::int64_t maxPixels) {
+  constexpr int kMaxIntegerBytes = 4;
+  std::size_t at = 0;
+  const auto next = [&]() -> std::uint32_t {
+    std::uint32_t value = 0;
+    for (int i = 0; i < kMaxIntegerBytes; ++i) {
+      if (at >= bytes.size()) InvalidPicture();
+      const auto byte = static_cast<unsigned char>(bytes[at++]);
+      value = (value << 7) | (byte & 0x7Fu);
+      if ((byte & 0x80u) == 0) return value;
+    }
+    InvalidPicture();
+  };
+  if (next() != 0) InvalidPicture();  // type 0, the only one there is
+  if (at >= bytes.size()) InvalidPicture();
+  ++at;  // the fixed header field
+  const std::uint32_t width = next();
+  const std::uint32_t height = next();
+  if (width == 0 || height == 0) InvalidPicture();
+  const auto pixels = std::int64_t{width} * height;
+  if (pixels > maxPixels) TooLarge(pixels);
 }
 
 // FreeImage's PSD reader allocates for the sizes in the header even when
@@ -280,6 +309,7 @@ QImage LoadPictureBytes(std::string_view bytes, const std::string& name, const P
   }
   if (!Readable(format)) InvalidPicture();
   if (format == FIF_PSD) CheckPsdHeader(bytes, load.maxPixels);
+  if (format == FIF_WBMP) CheckWbmpHeader(bytes, load.maxPixels);
 
   // The header first where the format can read it alone, so that a huge
   // picture is refused before its pixels take the memory.
