@@ -70,8 +70,9 @@ std::uint32_t BigEndian32(std::string_view bytes, std::size_t at) {
 
 // A WBMP header is two fields, then the width and the height as integers
 // of 7 bits a byte, with the top bit set on all bytes but the last.
-// FreeImage's reader loops forever when the file ends inside them, and
-// allocates whatever they name: the header is read here first.
+// FreeImage's reader loops forever when the file ends inside them or
+// inside the rows, and allocates whatever they name: the header is read
+// here first, and the rows of whole bytes must all be there.
 void CheckWbmpHeader(std::string_view bytes, std::int64_t maxPixels) {
   constexpr int kMaxIntegerBytes = 4;
   std::size_t at = 0;
@@ -93,6 +94,8 @@ void CheckWbmpHeader(std::string_view bytes, std::int64_t maxPixels) {
   if (width == 0 || height == 0) InvalidPicture();
   const auto pixels = std::int64_t{width} * height;
   if (pixels > maxPixels) TooLarge(pixels);
+  const auto rowBytes = (std::int64_t{width} + 7) / 8;
+  if (static_cast<std::int64_t>(bytes.size() - at) < rowBytes * height) InvalidPicture();
 }
 
 // FreeImage's PSD reader allocates for the sizes in the header even when
