@@ -3,6 +3,7 @@
 #include <FreeImage.h>
 
 #include <algorithm>
+#include <cctype>
 #include <fstream>
 #include <iterator>
 #include <memory>
@@ -66,6 +67,36 @@ std::uint32_t BigEndian32(std::string_view bytes, std::size_t at) {
   std::uint32_t value = 0;
   for (std::size_t i = 0; i < 4; ++i) value = (value << 8) | static_cast<unsigned char>(bytes[at + i]);
   return value;
+}
+
+// FreeImage's PBM, PGM and PPM readers overflow on sides of many digits
+// and crash: the header, "P1" to "P6" then the width and the height as
+// decimal numbers between blanks and "#" comments, is read here first.
+void CheckPnmHeader(std::string_view bytes, std::int64_t maxPixels) {
+  constexpr std::size_t kMaxDigits = 6;  // up to 999,999
+  std::size_t at = 2;
+  const auto next = [&]() -> std::int64_t {
+    while (at < bytes.size() && (std::isspace(static_cast<unsigned char>(bytes[at])) || bytes[at] == '#')) {
+      if (bytes[at] == '#') {
+        while (at < bytes.size() && bytes[at] != '\n' && bytes[at] != '\r') ++at;
+      } else {
+        ++at;
+      }
+    }
+    std::int64_t value = 0;
+    std::size_t digits = 0;
+    for (; at < bytes.size() && std::isdigit(static_cast<unsigned char>(bytes[at])); ++at, ++digits) {
+      if (digits == kMaxDigits) InvalidPicture();
+      value = value * 10 + (bytes[at] - '0');
+    }
+    if (digits == 0) InvalidPicture();
+    return value;
+  };
+  if (bytes.size() < 2 || bytes[0] != 'P' || bytes[1] < '1' || bytes[1] > '6') InvalidPicture();
+  const std::int64_t width = next();
+  const std::int64_t height = next();
+  if (width == 0 || height == 0) InvalidPicture();
+  if (width * height > maxPixels) TooLarge(width * height);
 }
 
 // A WBMP header is two fields, then the width and the height as integers
@@ -313,6 +344,10 @@ QImage LoadPictureBytes(std::string_view bytes, const std::string& name, const P
   if (!Readable(format)) InvalidPicture();
   if (format == FIF_PSD) CheckPsdHeader(bytes, load.maxPixels);
   if (format == FIF_WBMP) CheckWbmpHeader(bytes, load.maxPixels);
+  if (format == FIF_PBM || format == FIF_PBMRAW || format == FIF_PGM || format == FIF_PGMRAW || format == FIF_PPM ||
+      format == FIF_PPMRAW) {
+    CheckPnmHeader(bytes, load.maxPixels);
+  }
 
   // The header first where the format can read it alone, so that a huge
   // picture is refused before its pixels take the memory.
