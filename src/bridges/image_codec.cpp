@@ -44,10 +44,10 @@ struct MemoryDeleter {
 };
 
 // Formats that FreeImage reads but that are refused: its PICT reader loops
-// forever on some damaged files, and its DDS reader asks for any amount of
-// memory a damaged header names. Neither is a picture format of desktop
-// programs.
-constexpr FREE_IMAGE_FORMAT kRefusedFormats[] = {FIF_PICT, FIF_DDS};
+// forever on some damaged files, its DDS reader asks for any amount of
+// memory a damaged header names, and its CUT reader writes past its
+// buffer. None is a picture format of desktop programs.
+constexpr FREE_IMAGE_FORMAT kRefusedFormats[] = {FIF_PICT, FIF_DDS, FIF_CUT};
 
 bool Readable(FREE_IMAGE_FORMAT format) {
   if (format == FIF_UNKNOWN || !FreeImage_FIFSupportsReading(format)) return false;
