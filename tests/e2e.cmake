@@ -30,7 +30,7 @@ set_tests_properties(e2e.concurrent_records PROPERTIES TIMEOUT 120)
 # The examples on a real X display, where xvfb-run is installed.
 find_program(TAMRIX_XVFB_RUN xvfb-run)
 if(TAMRIX_XVFB_RUN)
-  foreach(example IN ITEMS draw buttons form)
+  foreach(example IN ITEMS draw buttons sprites form)
     add_test(NAME examples_on_xvfb.${example}
       COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/run_example_on_xvfb.sh
         $<TARGET_FILE:tamrix-pack> $<TARGET_FILE:tamrix_snapshot_pixels> ${example}

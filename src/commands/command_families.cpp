@@ -16,6 +16,11 @@ void RegisterCoreCommandFamilies(Dispatcher& dispatcher) {
   RegisterGetTextCommand(dispatcher);
   RegisterEventCommands(dispatcher);
   RegisterDrawingCommands(dispatcher);
+  RegisterPictureCommands(dispatcher);
+  RegisterImageCommands(dispatcher);
+  RegisterAnimatedGifCommands(dispatcher);
+  RegisterGradientCommand(dispatcher);
+
   RegisterEntryCommands(dispatcher);
 }
 

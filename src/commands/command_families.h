@@ -18,6 +18,11 @@ void RegisterNewWindowCommand(Dispatcher& dispatcher);
 void RegisterGetTextCommand(Dispatcher& dispatcher);
 void RegisterEventCommands(Dispatcher& dispatcher);
 void RegisterDrawingCommands(Dispatcher& dispatcher);
+void RegisterPictureCommands(Dispatcher& dispatcher);
+void RegisterImageCommands(Dispatcher& dispatcher);
+void RegisterAnimatedGifCommands(Dispatcher& dispatcher);
+void RegisterGradientCommand(Dispatcher& dispatcher);
+
 // Text, Mask, Currency, Calendar, Check, Radio, Label, Link, Frame, ScrollBar.
 void RegisterEntryCommands(Dispatcher& dispatcher);
 

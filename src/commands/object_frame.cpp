@@ -4,6 +4,7 @@
 
 #include "core/fault.h"
 #include "core/interpreter.h"
+#include "core/object_closing.h"
 #include "core/numbers.h"
 #include "core/text.h"
 
@@ -27,7 +28,12 @@ Value RunObjectCommand(CommandCall& call, const ObjectCommand& command) {
   if (element0.find('.') == std::string::npos) return command.create(in, args);
 
   const int index = FindObject(in, command.kind, element0);
-  if (index < 0) return std::string();
+  if (index < 0) {
+    if (command.missing != nullptr) {
+      CommandErrorBox(in, kCarriageReturn, command.missing(element0.substr(0, element0.find('.'))));
+    }
+    return std::string();
+  }
   if (Contains(element0, "Remove")) {
     RemoveObject(in, command.kind, index);
     return std::string();
@@ -73,6 +79,7 @@ int FindObject(Interpreter& in, ObjectKind kind, std::string_view element0) {
 
 void RemoveObject(Interpreter& in, ObjectKind kind, int index) {
   ObjectEntry& entry = in.Objects().Family(kind).entries[static_cast<std::size_t>(index)];
+  ReleaseUsedImage(in, entry.control);
   if (index == 0) {
     entry.control->SetVisible(false);
     // A label's template goes back to the main window, enabled.

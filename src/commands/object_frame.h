@@ -48,6 +48,9 @@ struct ObjectCommand {
   ObjectKind kind;
   Value (*create)(Interpreter&, CommandArguments&);
   std::span<const PropertyEntry> properties;  // searched in this order
+  // The words of the error box for a name not found; without them the
+  // command ends silently.
+  std::string (*missing)(std::string_view name) = nullptr;
 };
 
 // The dispatcher's handler for a kind: the create or property path, and any

@@ -15,6 +15,11 @@ inline constexpr std::string_view kPicCatalogue =
     "PicGlobe#30,PicTalk#31,PicMonitor#32,";
 inline constexpr int kPicCount = 33;
 
+// The larger pictures of Image and of the window background.
+inline constexpr std::string_view kImgCatalogue = "ImgPantano#0,ImgSobre#1,";
+// The animations of AnimatedGif.
+inline constexpr std::string_view kGifCatalogue = "GifSapo1#0,GifSapo2#1,GifSapa1#2,GifSapa2#3,";
+
 // The number of `name`, or -1. No delimiter is looked for before the name,
 // so the end of an entry's name finds it too: "OK" finds PicOK.
 int CatalogueNumber(std::string_view catalogue, std::string_view name);

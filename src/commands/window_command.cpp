@@ -6,6 +6,7 @@
 
 #include "commands/command_arguments.h"
 #include "commands/command_families.h"
+#include "commands/picture_catalogue.h"
 #include "commands/window_settings.h"
 #include "core/interpreter.h"
 #include "core/numbers.h"
@@ -82,9 +83,14 @@ void Size(WindowSetting& s) { ApplySize(s.in, s.Main(), s.Text(2), s.Text(3)); }
 
 void Position(WindowSetting& s) { ApplyPosition(s.in, s.Main(), s.Raw(2), s.Raw(3)); }
 
-// The built-in image catalogue is looked up first in the original; no
-// catalogue exists here, so every value goes to SetBackground.
+// A name of the `Img` catalogue becomes the window's picture and nothing
+// else happens; any other value goes to SetBackground.
 void Background(WindowSetting& s) {
+  const int builtIn = CatalogueNumber(kImgCatalogue, StripQuotes(s.Raw(2)));
+  if (builtIn >= 0) {
+    s.in.Windows().Current().SetBuiltInPicture(builtIn);
+    return;
+  }
   const double line = IsNumeric(s.Raw(3)) ? s.Number(3) : 0;
   const double column = IsNumeric(s.Raw(4)) ? s.Number(4) : 0;
   if (!SetBackground(s.in, s.in.Windows().Current(), s.Raw(2), line, column)) {

@@ -1,5 +1,6 @@
 #include "core/object_closing.h"
 
+#include "core/fault.h"
 #include "core/interpreter.h"
 #include "core/object_table.h"
 
@@ -18,6 +19,7 @@ void ClearEntry(Interpreter& in, ObjectKind kind, std::size_t index, Walk walk) 
   entry.name.clear();
   entry.owner.clear();
   if (entry.control == nullptr) return;
+  ReleaseUsedImage(in, entry.control);
   if (index == 0) {
     entry.control->SetVisible(false);
   } else {
@@ -36,6 +38,16 @@ void ShutdownObjects(Interpreter& in) {
     for (std::size_t i = in.Objects().Family(kind).entries.size(); i-- > 0;) {
       ClearEntry(in, kind, i, Walk::MainWindow);
     }
+  }
+}
+
+void ReleaseUsedImage(Interpreter& in, ObjectControl* control) {
+  auto* image = dynamic_cast<ImageControl*>(control);
+  if (image == nullptr || in.Windows().ImageSurface() == nullptr) return;
+  try {
+    if (in.Windows().ImageSurface() == &image->Drawing()) in.Windows().UseImageSurface(nullptr);
+  } catch (const RuntimeFault&) {
+    in.Windows().UseImageSurface(nullptr);
   }
 }
 

@@ -6,6 +6,7 @@
 namespace tamrix {
 
 class Interpreter;
+class ObjectControl;
 
 // The main window closes: every family from its last entry down to entry 1
 // is cleared, its value variables removed and its control unloaded; entry 0
@@ -17,5 +18,10 @@ void ShutdownObjects(Interpreter& interpreter);
 // hidden). The numeric kinds' variables are removed under the wrong name
 // ".Valor", so that their ".Value" stays declared.
 void CloseWindowObjects(Interpreter& interpreter, const std::string& tag);
+
+// A control that goes: if it is the Image in use, drawing goes back to the
+// Current Window. A surface that has already gone with its window can't
+// stay in use either.
+void ReleaseUsedImage(Interpreter& interpreter, ObjectControl* control);
 
 }  // namespace tamrix

@@ -34,13 +34,19 @@ enum class ObjectKind {
 };
 inline constexpr int kObjectKindCount = 17;
 
-// A picture given to a control: nothing, a built-in picture of the `Pic`
-// catalogue, or a file.
+// The catalogues of built-in pictures: icons, larger pictures, animations.
+enum class Catalogue { Pic, Img, Gif };
+
+// A picture given to a control: nothing, a built-in picture of a catalogue,
+// or a file.
 struct PictureSource {
   int builtIn = -1;  // catalogue number, -1 for none
   std::string path;  // a file, as the program wrote it
+  Catalogue catalogue = Catalogue::Pic;
   bool Empty() const { return builtIn < 0 && path.empty(); }
 };
+
+class Surface;
 
 // What every control offers to the object frame.
 class ObjectControl {
@@ -95,6 +101,94 @@ class ButtonSkinStore {
   virtual void SetPicture(ButtonState state, const std::string& path) = 0;
   virtual void SetBackColor(std::int32_t colour) = 0;
   virtual void SetForeColor(std::int32_t colour) = 0;
+};
+
+// Where a sprite of the Picture kind is drawn: not at all, with the ones at
+// the back, or with the ones in front.
+enum class DrawState : std::int16_t { Off = 0, Back = 1, Front = 2 };
+
+// A Picture object: a hidden picture and its mask, painted on a surface by
+// DrawPictures.
+class PictureControl : public virtual ObjectControl {
+ public:
+  // Loads the picture over white and builds its mask, in which the white
+  // is the transparent part; the white of the picture becomes black. Fails
+  // with the loader's error.
+  virtual void SetSource(const PictureSource& source) = 0;
+  virtual int PictureWidth() const = 0;
+  virtual int PictureHeight() const = 0;
+  // The mask ANDed onto the surface, then the picture ORed over it.
+  virtual void PaintOn(Surface& surface, int x, int y) = 0;
+
+  DrawState drawState = DrawState::Back;
+  std::int32_t drawTop = 0;   // pixels
+  std::int32_t drawLeft = 0;  // pixels
+};
+
+// The mouse over an Image, as its events last left it.
+struct ImageMouse {
+  std::int32_t button = 0;
+  std::int32_t x = 0;
+  std::int32_t y = 0;
+};
+
+// An Image object: a drawing surface of its own, placed on a window.
+class ImageControl : public virtual ObjectControl {
+ public:
+  // What drawing commands reach while the image is in use.
+  virtual Surface& Drawing() = 0;
+  // The name of the surface in traces: the object's, upper case.
+  virtual void Rename(const std::string& name) = 0;
+  // Nothing clears; a file fails with the loader's error.
+  virtual void SetSource(const PictureSource& source) = 0;
+  // Paints the file's picture at its own size with its corner at (x, y).
+  virtual void PaintFile(const std::string& path, int x, int y) = 0;
+  // From now on the image takes the size of its picture.
+  virtual void SetAutoSize() = 0;
+  // The drawing scaled to this size, which the image takes.
+  virtual void Rescale(int width, int height) = 0;
+  // The drawing as a bitmap file; fails with the codec's errors.
+  virtual void SaveBitmap(const std::string& path) = 0;
+  virtual void SetMouseIcon(const std::string& path) = 0;
+  virtual void SetOrder(bool front) = 0;
+  // The native window and a drawing handle for library calls; 0 where the
+  // platform has none to give.
+  virtual std::int64_t WindowHandle() const = 0;
+  virtual std::int64_t DrawingHandle() const = 0;
+  // The colour of lines drawn without one.
+  virtual std::int32_t DrawingForeColor() const = 0;
+  // A bitmap file converted to a JPEG file of that quality; false when it
+  // fails.
+  virtual bool ConvertBitmapToJpeg(const std::string& bitmap, const std::string& jpeg, int quality) = 0;
+
+  // The text cursor of .WRITE, .POSX and .POSY, in pixels.
+  double currentX = 0;
+  double currentY = 0;
+  // What the mouse last did over the image.
+  ImageMouse mouse;
+};
+
+// An AnimatedGif object: in the window (type 0) or floating over the
+// desktop in a frameless window that stays on top (any other type).
+class AnimatedGifControl : public virtual ObjectControl {
+ public:
+  // A `Gif` catalogue animation or a file; fails with the loader's error.
+  // The animation stops at frame 0.
+  virtual void SetSource(const PictureSource& source) = 0;
+  virtual int FrameCount() const = 0;
+  virtual int CurrentFrame() const = 0;
+  virtual void ShowFrame(int frame) = 0;
+  virtual void Play() = 0;
+  virtual void Stop() = 0;
+  // Plays again from the start at its end: 0 never, a count, or -1 always.
+  virtual void SetLoop(int times) = 0;
+  // The picture stretched to the control's size instead of its own.
+  virtual void SetStretch(bool stretch) = 0;
+  virtual void SetOrder(bool front) = 0;
+  // Off the window into a frameless window that floats over the desktop.
+  virtual void SetFloating() = 0;
+
+  std::int16_t gifType = 0;
 };
 
 // The look given to the selected part of a Text's rich text; a part left

@@ -7,6 +7,8 @@
 #include <functional>
 #include <string>
 
+#include "core/gradient.h"
+
 namespace tamrix {
 
 class Surface;
@@ -54,6 +56,8 @@ class RunTimeWindow {
   const std::string& Tag() const { return tag_; }
   void SetTag(std::string tag) { tag_ = std::move(tag); }
   WindowFlags& Flags() { return flags_; }
+  // The gradient control Grd of the window.
+  Gradiente& Grd() { return grd_; }
 
   // Normal state and visible, not modal.
   virtual void Show() = 0;
@@ -86,6 +90,8 @@ class RunTimeWindow {
   virtual bool SetPicture(const std::string& path) = 0;
   // Paints a picture file at its own size into the drawing.
   virtual bool PaintPicture(const std::string& path, int x, int y) = 0;
+  // A picture of the `Img` catalogue as the window's picture.
+  virtual bool SetBuiltInPicture(int number) = 0;
 
   // Shows the hidden key catcher TxtAux and gives it the focus, so that
   // keys reach the key tables.
@@ -94,6 +100,7 @@ class RunTimeWindow {
  private:
   std::string tag_;
   WindowFlags flags_;
+  Gradiente grd_;
 };
 
 // A timer of the main window: `tick` runs each interval, but only while

@@ -209,6 +209,7 @@ void OnWindowResize(Interpreter& in, RunTimeWindow& window) {
   // The Current Window's name, not the resized one's.
   in.Mail().lastEventResize = "RESIZE " + Upper(windows.Current().Tag());
   if (&window == &windows.Main() && windows.Modes().fixedWindow && window.IsMaximized()) window.Restore();
+  if (window.Grd().active) window.Grd().Paint(window.Drawing());
 }
 
 void OnWindowClosing(Interpreter& in, RunTimeWindow& window) {

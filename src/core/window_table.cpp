@@ -12,6 +12,7 @@ void WindowTable::Reset(RunTimeWindow& main) {
   main.SetTag("PARENT");
   MakeMainCurrent();
   modes_ = WindowModes();
+  imageSurface_ = nullptr;
   windowCodeOwner_.clear();
   pendingWindowCode_.clear();
   modalDepth_ = 0;
@@ -51,6 +52,9 @@ void WindowTable::MakeMainCurrent() {
   currentName_ = "PARENT";
 }
 
-Surface& WindowTable::CurrentSurface() const { return current_->Drawing(); }
+Surface& WindowTable::CurrentSurface() const {
+  if (modes_.imageInUse && imageSurface_ != nullptr) return *imageSurface_;
+  return current_->Drawing();
+}
 
 }  // namespace tamrix

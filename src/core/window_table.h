@@ -57,7 +57,13 @@ class WindowTable {
   void SetCurrent(RunTimeWindow& window) { current_ = &window; }
   void SetCurrentName(std::string name) { currentName_ = std::move(name); }
   void MakeMainCurrent();
+  // The Current Window's surface, or the used Image's while imageInUse
+  // stands.
   Surface& CurrentSurface() const;
+  // An Image's surface becomes the one that drawing reaches (.USE); nullptr
+  // when that image goes.
+  void UseImageSurface(Surface* surface) { imageSurface_ = surface; }
+  Surface* ImageSurface() const { return imageSurface_; }
 
   WindowModes& Modes() { return modes_; }
   // The window whose <name>_Code runs; its closing stops that code.
@@ -80,6 +86,7 @@ class WindowTable {
   RunTimeWindow* current_ = nullptr;
   std::string currentName_;
   WindowModes modes_;
+  Surface* imageSurface_ = nullptr;
   std::string windowCodeOwner_;
   std::string pendingWindowCode_;
   std::array<StaticWindowTimer, kStaticWindowTimers> staticTimers_;

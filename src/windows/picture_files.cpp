@@ -1,24 +1,27 @@
 #include "windows/picture_files.h"
 
-#include <QImageReader>
-#include <QFile>
-
+#include "bridges/image_codec.h"
 #include "core/fault.h"
-#include "data/paths.h"
+#include "windows/built_in_images.h"
+#include "windows/built_in_pictures.h"
 
 namespace tamrix {
-namespace {
 
-constexpr long kInvalidPicture = 481;
+QImage LoadPictureFile(const std::string& path) { return LoadPicture(path); }
 
-}  // namespace
+QImage PictureOf(const PictureSource& source) {
+  if (source.builtIn >= 0) {
+    return source.catalogue == Catalogue::Img ? BuiltInImage(source.builtIn) : BuiltInPicture(source.builtIn);
+  }
+  return source.path.empty() ? QImage() : LoadPictureFile(source.path);
+}
 
-QImage LoadPictureFile(const std::string& path) {
-  if (!FileExists(path)) Throw(kFileNotFound);
-  QImageReader reader(QFile::decodeName(OsPath(path).c_str()));
-  const QImage image = reader.read();
-  if (image.isNull()) throw RuntimeFault(kInvalidPicture, "Invalid picture");
-  return image;
+QImage ReadPictureFile(const std::string& path) {
+  try {
+    return LoadPicture(path);
+  } catch (const RuntimeFault&) {
+    return QImage();
+  }
 }
 
 }  // namespace tamrix

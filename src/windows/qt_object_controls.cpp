@@ -7,7 +7,10 @@
 #include "controls/btn_esp.h"
 #include "core/fault.h"
 #include "core/window_events.h"
+#include "windows/qt_animated_gif_control.h"
 #include "windows/qt_button_control.h"
+#include "windows/qt_image_control.h"
+#include "windows/qt_picture_control.h"
 #include "windows/qt_entry_controls.h"
 #include "windows/window_metrics.h"
 
@@ -34,6 +37,10 @@ ObjectControl& QtObjectControls::Load(ObjectKind kind, int index, const std::str
     });
     if (existing != controls_.end()) return **existing;
   }
+  if (auto picture = MakePictureKind(kind, index, window)) {
+    controls_.push_back(std::move(picture));
+    return *controls_.back();
+  }
   // The relay is read when an event comes, not when the control is made.
   const EventSink sink = [this](const EventRelay::Event& event) {
     if (relay_ != nullptr) relay_->Deliver(event);
@@ -56,6 +63,15 @@ void QtObjectControls::Unload(ObjectControl& control) {
 QWidget* QtObjectControls::WidgetOf(ObjectControl& control) {
   auto* qtControl = dynamic_cast<QtObjectControl*>(&control);
   return qtControl != nullptr ? qtControl->Widget() : nullptr;
+}
+
+std::unique_ptr<QtObjectControl> QtObjectControls::MakePictureKind(ObjectKind kind, int index, QWidget& window) {
+  switch (kind) {
+    case ObjectKind::Picture: return std::make_unique<QtPictureControl>(index, lookup_);
+    case ObjectKind::Image: return std::make_unique<QtImageControl>(window, index, lookup_);
+    case ObjectKind::AnimatedGif: return std::make_unique<QtAnimatedGifControl>(window, index, lookup_);
+    default: return nullptr;
+  }
 }
 
 std::unique_ptr<QtObjectControl> QtObjectControls::MakeButton(int index, QWidget& window, bool onMainWindow) {

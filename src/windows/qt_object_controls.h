@@ -35,6 +35,8 @@ class QtObjectControls : public ObjectControls {
 
  private:
   std::unique_ptr<QtObjectControl> MakeButton(int index, QWidget& window, bool onMainWindow);
+  // The controls of Picture, Image and AnimatedGif; nullptr for other kinds.
+  std::unique_ptr<QtObjectControl> MakePictureKind(ObjectKind kind, int index, QWidget& window);
 
   QWidget& main_;
   QtObjectControl::WindowLookup lookup_;

@@ -10,8 +10,10 @@
 
 #include "controls/virtual_keys.h"
 #include "data/paths.h"
+#include "windows/built_in_images.h"
 #include "windows/colour_ref.h"
 #include "windows/key_catcher.h"
+#include "windows/picture_files.h"
 #include "windows/primary_screen.h"
 #include "windows/window_metrics.h"
 
@@ -142,17 +144,25 @@ void RunTimeWidget::SetBackColor(std::int32_t colour) {
 }
 
 bool RunTimeWidget::SetPicture(const std::string& path) {
-  QImage picture;
-  if (!path.empty() && !picture.load(FileName(path))) return false;
+  const QImage picture = path.empty() ? QImage() : ReadPictureFile(path);
+  if (!path.empty() && picture.isNull()) return false;
   surface_.SetPicture(picture);
   surface_.Clear();
   return true;
 }
 
 bool RunTimeWidget::PaintPicture(const std::string& path, int x, int y) {
-  QImage picture;
-  if (!picture.load(FileName(path))) return false;
+  const QImage picture = ReadPictureFile(path);
+  if (picture.isNull()) return false;
   surface_.DrawPicture(x, y, picture);
+  return true;
+}
+
+bool RunTimeWidget::SetBuiltInPicture(int number) {
+  const QImage picture = BuiltInImage(number);
+  if (picture.isNull()) return false;
+  surface_.SetPicture(picture);
+  surface_.Clear();
   return true;
 }
 

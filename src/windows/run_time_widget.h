@@ -46,6 +46,7 @@ class RunTimeWidget : public QWidget, public RunTimeWindow {
   void SetBackColor(std::int32_t colour) override;
   bool SetPicture(const std::string& path) override;
   bool PaintPicture(const std::string& path, int x, int y) override;
+  bool SetBuiltInPicture(int number) override;
   void FocusKeyCatcher() override;
 
  signals:

@@ -154,6 +154,15 @@ void WindowSurface::DrawPicture(int x, int y, const QImage& picture) {
   Paint([&](QPainter& painter) { painter.drawImage(x, y, picture); });
 }
 
+void WindowSurface::DrawSprite(int x, int y, const QImage& mask, const QImage& picture, const QRect& box) {
+  Paint([&](QPainter& painter) {
+    painter.setCompositionMode(QPainter::RasterOp_SourceAndDestination);
+    painter.drawImage(QPoint(x, y), mask, box);
+    painter.setCompositionMode(QPainter::RasterOp_SourceOrDestination);
+    painter.drawImage(QPoint(x, y), picture, box);
+  });
+}
+
 void WindowSurface::Cover(int width, int height) {
   if (width <= image_.width() && height <= image_.height()) return;
   QImage grown(std::max(width, image_.width()), std::max(height, image_.height()),

@@ -59,6 +59,12 @@ class WindowSurface : public Surface {
   // for none.
   void SetPicture(const QImage& picture) { picture_ = picture; }
   void DrawPicture(int x, int y, const QImage& picture);
+  // A sprite: the part `box` of the mask ANDed onto the drawing, then the
+  // same part of the picture ORed over it, so that the white of the mask
+  // leaves the drawing as it was.
+  void DrawSprite(int x, int y, const QImage& mask, const QImage& picture, const QRect& box);
+  // An Image object's surface takes its object's name.
+  void Rename(std::string name) { name_ = std::move(name); }
 
   // Grows the image to cover at least this size; it never shrinks, so text
   // hidden by making the window smaller comes back when it grows again.

@@ -112,6 +112,10 @@ class HeadlessWindow : public RunTimeWindow {
     painted.push_back(path + " " + std::to_string(x) + " " + std::to_string(y));
     return true;
   }
+  bool SetBuiltInPicture(int number) override {
+    picture = "Img#" + std::to_string(number);
+    return true;
+  }
   void FocusKeyCatcher() override { ++keyCatcherFocus; }
 
   HeadlessSurface surface;
