@@ -48,8 +48,7 @@ Value CreateImage(Interpreter& in, CommandArguments& args) {
   const int index = CreateObject(in, ObjectKind::Image, args.Text(0));
   ImageControl& image = ImageAt(in, index);
   image.Rename(Upper(in.Objects().Family(ObjectKind::Image).entries[static_cast<std::size_t>(index)].name));
-  image.currentX = 0;
-  image.currentY = 0;
+  image.Drawing().Cursor() = {};
   FinishObject(in, ObjectKind::Image, index);
   LoadSource(in, image, args.Text(1));
   return 0.0;
@@ -81,17 +80,18 @@ Value ImgProperty(ObjectCall& call) {
   ImageControl& image = Img(call);
   const std::string path = call.args.Text(2);
   const std::string resolved = ResolvePath(path, call.interpreter.Launch().programPath);
-  image.PaintFile(resolved.empty() ? path : resolved, ToInt32(image.currentX), ToInt32(image.currentY));
+  image.PaintFile(resolved.empty() ? path : resolved, ToInt32(image.Drawing().Cursor().x),
+                   ToInt32(image.Drawing().Cursor().y));
   return 0.0;
 }
 
 Value PosXProperty(ObjectCall& call) {
-  Img(call).currentX = NumberOf(call.args.Number(2));
+  Img(call).Drawing().Cursor().x = NumberOf(call.args.Number(2));
   return 0.0;
 }
 
 Value PosYProperty(ObjectCall& call) {
-  Img(call).currentY = NumberOf(call.args.Number(2));
+  Img(call).Drawing().Cursor().y = NumberOf(call.args.Number(2));
   return 0.0;
 }
 
@@ -162,12 +162,13 @@ Value WriteProperty(ObjectCall& call) {
     text += TextOf(call.args.Number(i));
   }
   Surface& surface = image.Drawing();
-  const int x = ToInt32(image.currentX);
-  const int y = ToInt32(image.currentY);
+  SurfaceCursor& cursor = surface.Cursor();
+  const int x = ToInt32(cursor.x);
+  const int y = ToInt32(cursor.y);
   surface.PrintText(x, y, text);
   in.Tracer().Write({"write", surface.Name(), std::to_string(x), std::to_string(y), text});
-  image.currentX = 0;
-  image.currentY += in.Coordinates().linSize;
+  cursor.x = 0;
+  cursor.y += in.Coordinates().linSize;
   surface.Refresh();
   return 0.0;
 }
@@ -175,8 +176,7 @@ Value WriteProperty(ObjectCall& call) {
 Value ClsProperty(ObjectCall& call) {
   ImageControl& image = Img(call);
   image.Drawing().Clear();
-  image.currentX = 0;
-  image.currentY = 0;
+  image.Drawing().Cursor() = {};
   return 0.0;
 }
 

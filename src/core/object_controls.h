@@ -161,9 +161,6 @@ class ImageControl : public virtual ObjectControl {
   // fails.
   virtual bool ConvertBitmapToJpeg(const std::string& bitmap, const std::string& jpeg, int quality) = 0;
 
-  // The text cursor of .WRITE, .POSX and .POSY, in pixels.
-  double currentX = 0;
-  double currentY = 0;
   // What the mouse last did over the image.
   ImageMouse mouse;
 };
