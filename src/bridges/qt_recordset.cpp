@@ -64,6 +64,16 @@ QString TableOfSelect(const QString& sql) {
   return match.captured(1);
 }
 
+// Runs one of our own statements with its values bound, never spliced in;
+// a statement that touches no row means the row is gone.
+void ExecuteOnRow(const QSqlDatabase& db, const QString& sql, const QList<QVariant>& bound) {
+  QSqlQuery query(db);
+  if (!query.prepare(sql)) ThrowSqlError(query.lastError());
+  for (const QVariant& value : bound) query.addBindValue(value);
+  if (!query.exec()) ThrowSqlError(query.lastError());
+  if (query.numRowsAffected() == 0) ThrowDatabaseFault(kRowNotFound);
+}
+
 }  // namespace
 
 QtRecordset::QtRecordset(QSqlDatabase db, const QString& source, CursorType cursor, LockType lock)
@@ -274,13 +284,7 @@ void QtRecordset::UpdateRow(long row) {
   if (sets.isEmpty()) return;
   const QString sql = QStringLiteral("UPDATE ") + table_ + QStringLiteral(" SET ") + sets.join(QStringLiteral(", ")) +
                       KeyCondition(original_.data(), bound);
-  QSqlQuery query(db_);
-  if (!query.prepare(sql)) ThrowSqlError(query.lastError());
-  for (const QVariant& value : bound) query.addBindValue(value);
-  if (!query.exec()) ThrowSqlError(query.lastError());
-  if (query.numRowsAffected() == 0) {
-    ThrowDatabaseFault(kRowNotFound);
-  }
+  ExecuteOnRow(db_, sql, bound);
 }
 
 void QtRecordset::Delete() {
@@ -297,14 +301,7 @@ void QtRecordset::Delete() {
     edit_ = Edit::None;
   }
   QList<QVariant> bound;
-  const QString sql = QStringLiteral("DELETE FROM ") + table_ + KeyCondition(Cells(row), bound);
-  QSqlQuery query(db_);
-  if (!query.prepare(sql)) ThrowSqlError(query.lastError());
-  for (const QVariant& value : bound) query.addBindValue(value);
-  if (!query.exec()) ThrowSqlError(query.lastError());
-  if (query.numRowsAffected() == 0) {
-    ThrowDatabaseFault(kRowNotFound);
-  }
+  ExecuteOnRow(db_, QStringLiteral("DELETE FROM ") + table_ + KeyCondition(Cells(row), bound), bound);
   deleted_[static_cast<std::size_t>(row)] = 1;
 }
 
