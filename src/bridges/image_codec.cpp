@@ -148,6 +148,41 @@ void CheckPsdHeader(std::string_view bytes, std::int64_t maxPixels) {
   if (pixels > maxPixels) TooLarge(pixels);
 }
 
+// FreeImage's GIF reader takes the memory of each image's sides before it
+// reads a pixel: a damaged descriptor of a few bytes can ask for gigabytes
+// and keep the reader busy for seconds. The blocks are walked here first
+// and every image must fit the limit; a walk that runs out of bytes stops
+// and leaves the rest to the reader.
+void CheckGifImages(std::string_view bytes, std::int64_t maxPixels) {
+  const auto byteAt = [&](std::size_t at) { return static_cast<unsigned char>(bytes[at]); };
+  const auto littleEndian16 = [&](std::size_t at) { return std::int64_t{byteAt(at)} | std::int64_t{byteAt(at + 1)} << 8; };
+  const auto colourTable = [&](std::size_t flagsAt) {
+    return (byteAt(flagsAt) & 0x80u) != 0 ? std::size_t{3} << ((byteAt(flagsAt) & 0x07u) + 1) : 0;
+  };
+  // Data sub-blocks: a size byte and that many bytes, up to a size of 0.
+  const auto skipSubBlocks = [&](std::size_t at) {
+    while (at < bytes.size() && byteAt(at) != 0) at += std::size_t{byteAt(at)} + 1;
+    return at + 1;
+  };
+  constexpr std::size_t kScreenEnd = 13;
+  constexpr std::size_t kDescriptorSize = 10;
+  if (bytes.size() < kScreenEnd) return;
+  std::size_t at = kScreenEnd + colourTable(10);
+  while (at < bytes.size()) {
+    const unsigned char block = byteAt(at);
+    if (block == 0x21) {  // an extension: its label, then sub-blocks
+      at = skipSubBlocks(at + 2);
+    } else if (block == 0x2C) {  // an image: its descriptor, colours, code size, data
+      if (at + kDescriptorSize > bytes.size()) return;
+      const std::int64_t pixels = littleEndian16(at + 5) * littleEndian16(at + 7);
+      if (pixels > maxPixels) TooLarge(pixels);
+      at = skipSubBlocks(at + kDescriptorSize + colourTable(at + 9) + 1);
+    } else {
+      return;  // the trailer, or bytes the reader will refuse
+    }
+  }
+}
+
 [[noreturn]] void RaiseCodecError(const std::string& text) { throw RuntimeFault(kRaisedByTamrix, text); }
 
 std::string PluginName(FREE_IMAGE_FORMAT format) {
@@ -344,6 +379,7 @@ QImage LoadPictureBytes(std::string_view bytes, const std::string& name, const P
   if (!Readable(format)) InvalidPicture();
   if (format == FIF_PSD) CheckPsdHeader(bytes, load.maxPixels);
   if (format == FIF_WBMP) CheckWbmpHeader(bytes, load.maxPixels);
+  if (format == FIF_GIF) CheckGifImages(bytes, load.maxPixels);
   if (format == FIF_PBM || format == FIF_PBMRAW || format == FIF_PGM || format == FIF_PGMRAW || format == FIF_PPM ||
       format == FIF_PPMRAW) {
     CheckPnmHeader(bytes, load.maxPixels);

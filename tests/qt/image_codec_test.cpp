@@ -168,5 +168,23 @@ TEST_F(ImageCodecTest, HugePicturesAreRefusedByTheirHeader) {
   EXPECT_EQ(LoadPicture(File("big.bmp"), small).size(), QSize(4, 3));
 }
 
+// A GIF's image descriptors are read before FreeImage takes the memory
+// their sides name: a few damaged bytes must not ask for gigabytes.
+TEST_F(ImageCodecTest, GifImagesAreMeasuredBeforeTheyAreRead) {
+  ASSERT_TRUE(SavePicture(Stripes(), File("small.gif"), FIF_GIF, 0, 8));
+  PictureLoad small;
+  small.maxPixels = 11;
+  EXPECT_EQ(FaultOf([&] { LoadPicture(File("small.gif"), small); }).Number(), kOutOfMemory);
+  small.maxPixels = 12;
+  EXPECT_EQ(LoadPicture(File("small.gif"), small).size(), QSize(4, 3));
+
+  // One pixel of screen, one image of 65,535 by 65,535 and no data.
+  const std::string huge("GIF89a\x01\x00\x01\x00\x00\x00\x00"
+                         "!\xfe\x02hi\x00"
+                         ",\x00\x00\x00\x00\xff\xff\xff\xff\x00\x02\x00;",
+                         32);
+  EXPECT_EQ(FaultOf([&] { LoadPictureBytes(huge, "huge.gif"); }).Number(), kOutOfMemory);
+}
+
 }  // namespace
 }  // namespace tamrix
