@@ -119,7 +119,9 @@ void CheckWbmpHeader(std::string_view bytes, std::int64_t maxPixels) {
   };
   if (next() != 0) InvalidPicture();  // type 0, the only one there is
   if (at >= bytes.size()) InvalidPicture();
-  ++at;  // the fixed header field
+  // The fixed header field; its top bit announces extension headers, which
+  // FreeImage reads as sides of any length: such files are refused.
+  if ((static_cast<unsigned char>(bytes[at++]) & 0x80u) != 0) InvalidPicture();
   const std::uint32_t width = next();
   const std::uint32_t height = next();
   if (width == 0 || height == 0) InvalidPicture();

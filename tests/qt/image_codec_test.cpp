@@ -188,5 +188,12 @@ TEST_F(ImageCodecTest, GifImagesAreMeasuredBeforeTheyAreRead) {
   EXPECT_NE(refused.Description().find("4294836225 pixels"), std::string::npos) << refused.Description();
 }
 
+// FreeImage reads a WBMP's extension headers as sides of any length: a
+// file that announces them is refused before it gets there.
+TEST_F(ImageCodecTest, WbmpExtensionHeadersAreRefused) {
+  const std::string extended = std::string("\x00\x9c\x02\x50", 4) + std::string(64, '\xff');
+  EXPECT_EQ(FaultOf([&] { LoadPictureBytes(extended, "x.wbmp", {FIF_WBMP}); }).Number(), 481);
+}
+
 }  // namespace
 }  // namespace tamrix
