@@ -191,7 +191,8 @@ TEST_F(ImageCodecTest, GifImagesAreMeasuredBeforeTheyAreRead) {
 // FreeImage reads a WBMP's extension headers as sides of any length: a
 // file that announces them is refused before it gets there.
 TEST_F(ImageCodecTest, WbmpExtensionHeadersAreRefused) {
-  const std::string extended = std::string("\x00\x9c\x02\x50", 4) + std::string(64, '\xff');
+  const std::string extended = std::string("\x00\x9c\x02\x50", 4) + std::string(40, '\xff') + "=" +
+                               std::string(100, '\xff') + "4\n";
   EXPECT_EQ(FaultOf([&] { LoadPictureBytes(extended, "x.wbmp", {FIF_WBMP}); }).Number(), 481);
 }
 
