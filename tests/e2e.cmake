@@ -70,4 +70,4 @@ set_tests_properties(e2e.killed_writer_repair PROPERTIES TIMEOUT 180)
 # larger than memory.
 add_test(NAME packer_refusals
   COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/packer_refusals.sh $<TARGET_FILE:tamrix-pack>
-    ${CMAKE_CURRENT_BINARY_DIR}/packer_refusals)
+    ${CMAKE_CURRENT_BINARY_DIR}/packer_refusals $<$<BOOL:${TAMRIX_SANITIZE}>:sanitized>)
